@@ -59,9 +59,11 @@ void interleave (const juce::AudioBuffer<float>& buffer, int numFrames, Function
 
 AudioFileSink::AudioFileSink (const std::string& pathToWrite, AudioFileType type,
                               const AudioFileSpec& spec)
-    : path (pathToWrite), sampleFormat (spec.sampleFormat), pending (pathToWrite)
+    : path (pathToWrite),
+      sampleFormat (spec.sampleFormat),
+      pending (pathToWrite)
 {
-    SF_INFO info {};
+    SF_INFO info{};
     info.channels = spec.numChannels;
     info.samplerate = spec.sampleRate;
     info.format = getSndfileFormat (type, spec);
@@ -69,7 +71,7 @@ AudioFileSink::AudioFileSink (const std::string& pathToWrite, AudioFileType type
     file.reset (sf_open_virtual (&callbacks, SFM_WRITE, &info, &pending));
 
     if (file == nullptr)
-        throw Failure ("can't write " + quoted (path) + ": " + sf_strerror (nullptr));
+        throw Failure ("can't write " + inQuotes (path) + ": " + sf_strerror (nullptr));
 
     // It would hold the time of day, and equal renders would give different files.
     sf_command (file.get(), SFC_SET_ADD_PEAK_CHUNK, nullptr, SF_FALSE);
@@ -104,7 +106,7 @@ void AudioFileSink::checkWritten (sf_count_t written, int wanted) const
     if (written == wanted && pending.getError().empty())
         return;
 
-    throw Failure ("can't write " + quoted (path) + ": "
+    throw Failure ("can't write " + inQuotes (path) + ": "
                    + (pending.getError().empty() ? sf_strerror (file.get()) : pending.getError()));
 }
 

@@ -21,15 +21,15 @@ void checkReadable (const std::string& path)
     const auto status = std::filesystem::status (path, ignored);
 
     if (! std::filesystem::exists (status))
-        throw Failure ("there is no file " + quoted (path));
+        throw Failure ("there is no file " + inQuotes (path));
 
     if (! std::filesystem::is_regular_file (status))
-        throw Failure (quoted (path) + " is no regular file");
+        throw Failure (inQuotes (path) + " is no regular file");
 
     errno = 0;
 
     if (! std::ifstream (path, std::ios::binary))
-        throw Failure ("can't read " + quoted (path) + ": "
+        throw Failure ("can't read " + inQuotes (path) + ": "
                        + std::generic_category().message (errno));
 }
 
@@ -41,17 +41,21 @@ AudioFileSource::AudioFileSource (const std::string& pathToRead) : path (pathToR
     file.reset (sf_open (path.c_str(), SFM_READ, &info));
 
     if (file == nullptr || info.channels < 1 || info.samplerate < 1)
-        throw Failure (quoted (path) + " is no audio file that can be read");
+        throw Failure (inQuotes (path) + " is no audio file that can be read");
 }
 
 std::optional<SampleFormat> AudioFileSource::getSampleFormat() const noexcept
 {
     switch (info.format & SF_FORMAT_SUBMASK)
     {
-    case SF_FORMAT_PCM_16: return SampleFormat::pcm16;
-    case SF_FORMAT_PCM_24: return SampleFormat::pcm24;
-    case SF_FORMAT_FLOAT: return SampleFormat::float32;
-    default: return {};
+    case SF_FORMAT_PCM_16:
+        return SampleFormat::pcm16;
+    case SF_FORMAT_PCM_24:
+        return SampleFormat::pcm24;
+    case SF_FORMAT_FLOAT:
+        return SampleFormat::float32;
+    default:
+        return {};
     }
 }
 
@@ -59,12 +63,12 @@ int AudioFileSource::read (juce::AudioBuffer<float>& buffer)
 {
     const auto numChannels = static_cast<size_t> (info.channels);
     interleaved.resize (numChannels * static_cast<size_t> (buffer.getNumSamples()));
-    const auto numFrames = static_cast<int> (
-        sf_readf_float (file.get(), interleaved.data(), buffer.getNumSamples()));
+    const auto numFrames =
+        static_cast<int> (sf_readf_float (file.get(), interleaved.data(), buffer.getNumSamples()));
     framesRead += numFrames;
 
     if (numFrames < buffer.getNumSamples() && framesRead < info.frames)
-        throw Failure (quoted (path) + " ends early: only " + std::to_string (framesRead) + " of "
+        throw Failure (inQuotes (path) + " ends early: only " + std::to_string (framesRead) + " of "
                        + std::to_string (info.frames) + " frames can be read");
 
     for (size_t channel = 0; channel < numChannels; ++channel)

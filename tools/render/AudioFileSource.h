@@ -49,7 +49,7 @@ private:
     };
 
     const std::string path;
-    SF_INFO info {};
+    SF_INFO info{};
     std::unique_ptr<SNDFILE, Close> file;
     std::vector<float> interleaved;
     std::int64_t framesRead = 0;

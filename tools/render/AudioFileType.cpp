@@ -27,9 +27,12 @@ int getSubtype (SampleFormat format)
 {
     switch (format)
     {
-    case SampleFormat::pcm16: return SF_FORMAT_PCM_16;
-    case SampleFormat::pcm24: return SF_FORMAT_PCM_24;
-    case SampleFormat::float32: break;
+    case SampleFormat::pcm16:
+        return SF_FORMAT_PCM_16;
+    case SampleFormat::pcm24:
+        return SF_FORMAT_PCM_24;
+    case SampleFormat::float32:
+        break;
     }
 
     return SF_FORMAT_FLOAT;
@@ -39,8 +42,8 @@ int getSubtype (SampleFormat format)
 
 AudioFileType getAudioFileType (const std::string& path)
 {
-    const auto extension = juce::String (std::filesystem::path (path).extension().string())
-                               .toLowerCase();
+    const auto extension =
+        juce::String (std::filesystem::path (path).extension().string()).toLowerCase();
 
     if (extension == ".wav")
         return AudioFileType::wav;
@@ -52,7 +55,7 @@ AudioFileType getAudioFileType (const std::string& path)
         return AudioFileType::flac;
 
     throw Failure ("the name of the result must end in .wav, .aif, .aiff or .flac, not as in "
-                       + quoted (path),
+                       + inQuotes (path),
                    Failure::usage);
 }
 

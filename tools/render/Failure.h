@@ -17,7 +17,8 @@ public:
     static constexpr int interrupted = 128; ///< plus the number of the signal
 
     explicit Failure (const std::string& message, int exitCodeToUse = failed)
-        : std::runtime_error (message), exitCode (exitCodeToUse)
+        : std::runtime_error (message),
+          exitCode (exitCodeToUse)
     {
     }
 
@@ -28,6 +29,6 @@ private:
 };
 
 /** A name as messages show it. */
-inline std::string quoted (const std::string& text) { return '"' + text + '"'; }
+inline std::string inQuotes (const std::string& text) { return '"' + text + '"'; }
 
 } // namespace render

@@ -20,7 +20,7 @@ std::optional<Number> parseNumber (std::string_view text)
     if (text.size() > 1 && text[0] == '+' && text[1] != '-')
         text.remove_prefix (1);
 
-    Number number {};
+    Number number{};
     const auto* const end = text.data() + text.size();
     const auto result = std::from_chars (text.data(), end, number);
 

@@ -6,17 +6,18 @@
 
 #include <cerrno>
 #include <system_error>
+#include <utility>
 
 #ifdef _WIN32
-    #include <io.h>
-    #include <process.h>
-    #define fsync(fd) _commit (fd)
-    #define fileno _fileno
-    #define fseeko _fseeki64
-    #define ftello _ftelli64
-    #define getpid _getpid
+#include <io.h>
+#include <process.h>
+#define fsync(fd) _commit (fd)
+#define fileno _fileno
+#define fseeko _fseeki64
+#define ftello _ftelli64
+#define getpid _getpid
 #else
-    #include <unistd.h>
+#include <unistd.h>
 #endif
 
 namespace render
@@ -29,7 +30,7 @@ std::string describe (int errorNumber) { return std::generic_category().message 
 
 [[noreturn]] void fail (const std::string& name, const std::string& reason)
 {
-    throw Failure ("can't write " + quoted (name) + ": " + reason);
+    throw Failure ("can't write " + inQuotes (name) + ": " + reason);
 }
 
 /** The file that a name stands for: a symbolic link is written through, not replaced. */
@@ -47,7 +48,8 @@ std::filesystem::path resolveLink (const std::filesystem::path& path)
 } // namespace
 
 PendingFile::PendingFile (const std::string& targetPath)
-    : name (targetPath), target (resolveLink (targetPath))
+    : name (targetPath),
+      target (resolveLink (targetPath))
 {
     std::error_code ignored;
     const auto status = std::filesystem::status (target, ignored);
@@ -79,8 +81,8 @@ void PendingFile::open()
 
     for (int i = 0; i < attempts && file == nullptr; ++i)
     {
-        const auto hiddenName = ".vorlo-render-" + std::to_string (getpid()) + "-"
-                                + std::to_string (i) + ".part";
+        const auto hiddenName =
+            ".vorlo-render-" + std::to_string (getpid()) + "-" + std::to_string (i) + ".part";
         const auto path = target.parent_path() / hiddenName;
         file = std::fopen (path.string().c_str(), "w+bx");
 

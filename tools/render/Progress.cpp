@@ -6,18 +6,19 @@
 #include <cstdio>
 
 #ifdef _WIN32
-    #include <io.h>
-    #define isatty _isatty
-    #define fileno _fileno
+#include <io.h>
+#define isatty _isatty
+#define fileno _fileno
 #else
-    #include <unistd.h>
+#include <unistd.h>
 #endif
 
 namespace render
 {
 
 Progress::Progress (std::int64_t totalToReach)
-    : total (std::max<std::int64_t> (totalToReach, 1)), isWatched (isatty (fileno (stderr)) != 0)
+    : total (std::max<std::int64_t> (totalToReach, 1)),
+      isWatched (isatty (fileno (stderr)) != 0)
 {
 }
 
@@ -29,8 +30,8 @@ Progress::~Progress()
 
 void Progress::show (std::int64_t done)
 {
-    const auto percent = static_cast<int> (100.0 * static_cast<double> (done)
-                                           / static_cast<double> (total));
+    const auto percent =
+        static_cast<int> (100.0 * static_cast<double> (done) / static_cast<double> (total));
 
     if (! isWatched || percent == percentShown)
         return;

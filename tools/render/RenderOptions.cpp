@@ -28,7 +28,7 @@ void setBpm (RenderOptions& options, const std::string& text)
     const auto bpm = parseNumber<double> (text);
 
     if (! bpm || *bpm <= 0.0)
-        refuse ("--bpm takes a number above 0, not " + quoted (text));
+        refuse ("--bpm takes a number above 0, not " + inQuotes (text));
 
     options.bpm = *bpm;
 }
@@ -39,7 +39,7 @@ void setBlockSize (RenderOptions& options, const std::string& text)
 
     if (! size || *size < 1 || *size > RenderOptions::largestBlock)
         refuse ("--block takes a whole number from 1 to "
-                + std::to_string (RenderOptions::largestBlock) + ", not " + quoted (text));
+                + std::to_string (RenderOptions::largestBlock) + ", not " + inQuotes (text));
 
     options.blockSize = *size;
 }
@@ -53,7 +53,7 @@ void setBits (RenderOptions& options, const std::string& text)
     else if (text == "32f")
         options.sampleFormat = SampleFormat::float32;
     else
-        refuse ("--bits takes 16, 24 or 32f, not " + quoted (text));
+        refuse ("--bits takes 16, 24 or 32f, not " + inQuotes (text));
 }
 
 void setSeed (RenderOptions& options, const std::string& text)
@@ -61,7 +61,7 @@ void setSeed (RenderOptions& options, const std::string& text)
     options.seed = parseNumber<std::int64_t> (text);
 
     if (! options.seed)
-        refuse ("--seed takes a whole number, not " + quoted (text));
+        refuse ("--seed takes a whole number, not " + inQuotes (text));
 }
 
 void setMode (RenderOptions& options, Mode mode)
@@ -88,7 +88,7 @@ struct Option
     void (*apply) (RenderOptions&, const std::string& value);
 };
 
-constexpr std::array<Option, 9> optionTable { {
+constexpr std::array<Option, 9> optionTable{ {
     { "--set", true, [] (auto& options, auto& text) { options.assignments.push_back (text); } },
     { "--sync", false,
       [] (auto& options, auto&)
@@ -146,7 +146,7 @@ private:
                                            [&] (const Option& o) { return o.name == name; });
 
         if (option == optionTable.end())
-            refuse ("there is no option " + quoted (name));
+            refuse ("there is no option " + inQuotes (name));
 
         if (hasValue && ! option->takesValue)
             refuse (name + " takes no value");
@@ -161,13 +161,16 @@ private:
 
     void assignOperands()
     {
-        const size_t wanted = options.mode == Mode::list ? 0 : options.mode == Mode::measure ? 1 : 2;
+        const size_t wanted = options.mode == Mode::list      ? 0
+                              : options.mode == Mode::measure ? 1
+                                                              : 2;
 
         if (operands.size() < wanted)
-            refuse (wanted == 1 ? "--measure takes a file" : "give a file to read and one to write");
+            refuse (wanted == 1 ? "--measure takes a file"
+                                : "give a file to read and one to write");
 
         if (operands.size() > wanted)
-            refuse ("there is no place for " + quoted (operands[wanted]));
+            refuse ("there is no place for " + inQuotes (operands[wanted]));
 
         if (options.seed && ! options.plugin.empty())
             refuse ("--seed works with the built-in engine only, not with --plugin");

@@ -6,7 +6,8 @@ namespace render
 {
 
 Transport::Transport (double bpm, double sampleRateToUse)
-    : tempo (static_cast<double> (static_cast<float> (bpm))), sampleRate (sampleRateToUse)
+    : tempo (static_cast<double> (static_cast<float> (bpm))),
+      sampleRate (sampleRateToUse)
 {
 }
 
@@ -16,7 +17,7 @@ juce::Optional<juce::AudioPlayHead::PositionInfo> Transport::getPosition() const
     PositionInfo info;
     info.setIsPlaying (true);
     info.setBpm (tempo);
-    info.setTimeSignature (TimeSignature { 4, 4 });
+    info.setTimeSignature (TimeSignature{ 4, 4 });
     info.setTimeInSamples (timeInSamples);
     info.setTimeInSeconds (seconds);
     info.setPpqPosition (seconds * tempo / 60.0);
