@@ -36,4 +36,11 @@ function(vorlo_make_vst2_host_headers destination)
     file(WRITE "${destination}/pluginterfaces/fst/fst.h.new" "${patched}")
     file(COPY_FILE "${destination}/pluginterfaces/fst/fst.h.new"
         "${destination}/pluginterfaces/fst/fst.h" ONLY_IF_DIFFERENT)
+
+    # They read the fst.h that lies beside them, so they must lie beside the copy.
+    get_filename_component(folder "${FST_HEADER}" DIRECTORY)
+    foreach(header aeffect.h aeffectx.h)
+        file(COPY_FILE "${folder}/${header}" "${destination}/pluginterfaces/fst/${header}"
+            ONLY_IF_DIFFERENT)
+    endforeach()
 endfunction()

@@ -26,54 +26,70 @@ std::unique_ptr<juce::AudioPluginFormat> makeFormat (const juce::File& binary)
     return {};
 }
 
-/** LV2 knows plug-ins by URI: reads the folder's bundles and takes those the manifest names. */
-void findInBundle (juce::AudioPluginFormat& format, const juce::File& bundle, Descriptions& found)
+/** Adds the plug-ins that a manifest names: LV2 knows them by URI, and finds installed ones too. */
+void findNamedPlugins (juce::AudioPluginFormat& format, const juce::String& manifest,
+                       const juce::FileSearchPath& searchPath, Descriptions& found)
 {
-    const juce::FileSearchPath folder (bundle.getParentDirectory().getFullPathName());
-    const auto manifest = bundle.getChildFile ("manifest.ttl").loadFileAsString();
-
-    for (const auto& uri : format.searchPathsForPlugins (folder, false, false))
+    for (const auto& uri : format.searchPathsForPlugins (searchPath, false, false))
         if (manifest.contains ("<" + uri + ">"))
             format.findAllTypesForFile (found, uri);
 }
-
-bool isLv2 (const juce::File& binary) { return binary.hasFileExtension ("lv2"); }
 
 } // namespace
 
 std::unique_ptr<HostedPlugin> HostedPlugin::load (const juce::File& binary, double sampleRate,
                                                   int blockSize, juce::String& error)
 {
-    const auto name = binary.getFullPathName().quoted();
     std::unique_ptr<HostedPlugin> plugin (new HostedPlugin());
     plugin->format = makeFormat (binary);
+    error.clear();
 
     if (! binary.exists())
-        error = "there is no plug-in " + name;
+        error = "there is no plug-in " + binary.getFullPathName().quoted();
     else if (plugin->format == nullptr)
-        error = name + " is neither a .so, nor a .vst3, nor a .lv2";
-
-    if (error.isNotEmpty())
-        return {};
-
-    Descriptions found;
-
-    if (isLv2 (binary))
-        findInBundle (*plugin->format, binary, found);
+        error = binary.getFullPathName().quoted() + " is neither a .so, nor a .vst3, nor a .lv2";
     else
-        plugin->format->findAllTypesForFile (found, binary.getFullPathName());
-
-    if (found.size() == 1)
-        plugin->instance = plugin->format->createInstanceFromDescription (
-            *found.getFirst(), sampleRate, blockSize, error);
-
-    if (plugin->instance == nullptr)
-        error = name + " is no plug-in that can be loaded";
-    // An installed bundle with the same URI would be taken instead, silently.
-    else if (isLv2 (binary) && ! isLibraryLoadedFrom (binary))
-        error = "another installed plug-in with the same URI stands in the way of " + name;
+        error = plugin->open (binary, sampleRate, blockSize);
 
     return error.isEmpty() ? std::move (plugin) : nullptr;
+}
+
+juce::String HostedPlugin::open (const juce::File& binary, double sampleRate, int blockSize)
+{
+    const auto found = find (binary);
+    juce::String reason;
+
+    if (found.size() == 1)
+        instance = format->createInstanceFromDescription (*found.getFirst(), sampleRate, blockSize,
+                                                          reason);
+
+    if (instance == nullptr)
+        return binary.getFullPathName().quoted() + " is no plug-in that can be loaded";
+
+    // An installed bundle with the same URI would be taken instead, silently.
+    if (bundle != nullptr && ! isLibraryLoadedFrom (binary))
+        return "an installed plug-in with the same URI stands in the way of "
+               + binary.getFullPathName().quoted();
+
+    return {};
+}
+
+juce::OwnedArray<juce::PluginDescription> HostedPlugin::find (const juce::File& binary)
+{
+    Descriptions found;
+    const auto manifest = binary.getChildFile ("manifest.ttl");
+
+    if (! binary.hasFileExtension ("lv2"))
+    {
+        format->findAllTypesForFile (found, binary.getFullPathName());
+    }
+    else if (manifest.existsAsFile())
+    {
+        bundle = std::make_unique<LoneBundle> (binary);
+        findNamedPlugins (*format, manifest.loadFileAsString(), bundle->getSearchPath(), found);
+    }
+
+    return found;
 }
 
 juce::AudioProcessorParameter* HostedPlugin::findParameter (const juce::String& name) const

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "tools/hosting/LoneBundle.h"
+
 #include <juce_audio_processors/juce_audio_processors.h>
 
 #include <memory>
@@ -30,8 +32,11 @@ public:
 private:
     HostedPlugin() = default;
 
-    std::unique_ptr<juce::AudioPluginFormat>
-        format; ///< some instances need it as long as they live
+    juce::String open (const juce::File& binary, double sampleRate, int blockSize);
+    juce::OwnedArray<juce::PluginDescription> find (const juce::File& binary);
+
+    std::unique_ptr<LoneBundle> bundle; ///< of an LV2 plug-in
+    std::unique_ptr<juce::AudioPluginFormat> format;
     std::unique_ptr<juce::AudioPluginInstance> instance;
 
     JUCE_DECLARE_NON_COPYABLE_WITH_LEAK_DETECTOR (HostedPlugin)

@@ -40,6 +40,11 @@ int quantise (float sample, int bits) noexcept
     return static_cast<int> (std::ldexp (clipped, 32 - bits));
 }
 
+size_t countSamples (const juce::AudioBuffer<float>& buffer, int numFrames)
+{
+    return static_cast<size_t> (buffer.getNumChannels()) * static_cast<size_t> (numFrames);
+}
+
 /** Calls a function with the place in an interleaved array and the sample, for each sample. */
 template <typename Function>
 void interleave (const juce::AudioBuffer<float>& buffer, int numFrames, Function&& use)
@@ -87,7 +92,7 @@ void AudioFileSink::write (const juce::AudioBuffer<float>& buffer, int numFrames
 
 void AudioFileSink::writeFloats (const juce::AudioBuffer<float>& buffer, int numFrames)
 {
-    floats.resize (static_cast<size_t> (buffer.getNumChannels() * numFrames));
+    floats.resize (countSamples (buffer, numFrames));
     interleave (buffer, numFrames, [this] (size_t i, float sample) { floats[i] = sample; });
     checkWritten (sf_writef_float (file.get(), floats.data(), numFrames), numFrames);
 }
@@ -95,7 +100,7 @@ void AudioFileSink::writeFloats (const juce::AudioBuffer<float>& buffer, int num
 void AudioFileSink::writeInts (const juce::AudioBuffer<float>& buffer, int numFrames)
 {
     const auto bits = 8 * getBytesPerSample (sampleFormat);
-    ints.resize (static_cast<size_t> (buffer.getNumChannels() * numFrames));
+    ints.resize (countSamples (buffer, numFrames));
     interleave (buffer, numFrames,
                 [this, bits] (size_t i, float sample) { ints[i] = quantise (sample, bits); });
     checkWritten (sf_writef_int (file.get(), ints.data(), numFrames), numFrames);

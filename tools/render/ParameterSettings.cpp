@@ -50,7 +50,8 @@ double parseValue (const Param& param, const juce::String& text)
     const auto number = findNumber (param, text);
 
     if (! number || *number < param.getMinValue() || *number > param.getMaxValue())
-        throw fail ("takes " + describeRange (param));
+        throw fail ("takes " + describeRange (param)
+                    + (param.valueTexts.size() > 0 ? " or a name (--list prints them)" : ""));
 
     if (param.getType() != Param::typeFloat && *number != std::floor (*number))
         throw fail ("takes whole numbers");
