@@ -33,13 +33,17 @@ juce::File makeTemporaryName (const juce::File& target)
 
 bool writeWhole (const juce::File& file, const juce::String& text)
 {
+    const auto numBytes = text.getNumBytesAsUTF8();
     juce::FileOutputStream output (file);
 
-    if (! output.openedOk() || ! output.write (text.toRawUTF8(), text.getNumBytesAsUTF8()))
+    if (! output.openedOk() || ! output.write (text.toRawUTF8(), numBytes))
         return false;
 
     output.flush();
-    return output.getStatus().wasOk();
+
+    // The stream takes a write that was cut short, as the first one on a full disk, for a good one.
+    const auto stamp = FileStamp::of (file);
+    return output.getStatus().wasOk() && stamp.has_value() && stamp->size == numBytes;
 }
 
 } // namespace

@@ -163,7 +163,8 @@ bool isPlausibleNumber (const juce::String& text)
 
 std::unique_ptr<juce::XmlElement> XmlReader::parse (std::string_view utf8)
 {
-    if (utf8.empty() || utf8.size() > maxBytes)
+    // A zero tells UTF-16, which expat would take too.
+    if (utf8.empty() || utf8.size() > maxBytes || utf8.find ('\0') != std::string_view::npos)
         return nullptr;
 
     return TreeBuilder().build (utf8);

@@ -31,13 +31,13 @@ bool isLegal (const juce::String& text)
 
 juce::String onlyLegal (const juce::String& text)
 {
-    juce::String result;
+    juce::MemoryOutputStream result;
 
     for (auto character = text.getCharPointer(); ! character.isEmpty();)
         if (const auto next = character.getAndAdvance(); isLegal (next))
-            result += next;
+            result.appendUTF8Char (next);
 
-    return result;
+    return result.toUTF8();
 }
 
 void cleanElement (juce::XmlElement& element)
