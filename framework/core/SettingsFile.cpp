@@ -2,7 +2,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "framework/core/SettingsFile.h"
 
-#include "framework/core/AtomicFile.h"
 #include "framework/core/FileLock.h"
 #include "framework/core/XmlReader.h"
 #include "framework/core/XmlWriter.h"
@@ -42,7 +41,7 @@ std::optional<juce::StringPairArray> readValues (const juce::File& file)
     return values;
 }
 
-juce::String makeText (const juce::StringPairArray& values)
+bool writeValues (const juce::StringPairArray& values, const juce::File& file)
 {
     juce::XmlElement root (rootTag);
 
@@ -57,7 +56,7 @@ juce::String makeText (const juce::StringPairArray& values)
             entry->setAttribute (valueName, values[key]);
     }
 
-    return XmlWriter::toText (root, {});
+    return XmlWriter::write (root, file);
 }
 
 } // namespace
@@ -173,7 +172,7 @@ bool SettingsFile::writeEdits()
     for (const auto& edit : pending)
         edit.applyTo (merged);
 
-    if (merged != stored && ! AtomicFile::write (file, makeText (merged)))
+    if (merged != stored && ! writeValues (merged, file))
         return false;
 
     values = std::move (merged);

@@ -15,17 +15,18 @@ namespace zembra
 
     JUCE's own parser is made for trusted text. This one parses with expat and takes well-formed
     UTF-8 documents only, without document types and entities of their own, within the limits below.
-    It needs neither deep recursion nor more memory than a small multiple of the text. All functions
-    answer null for what they refuse. [any thread but audio]
+    It needs neither deep recursion nor more memory than a small multiple of the text, and the limits
+    are such that no text takes longer than about a tenth of a second. All functions answer null for
+    what they refuse. [any thread but audio]
 */
 struct XmlReader
 {
-    static constexpr size_t maxBytes = 4 * 1024 * 1024;
+    static constexpr size_t maxBytes = 2 * 1024 * 1024;
     static constexpr int maxDepth = 64;
-    static constexpr int maxElements = 5000; ///< elements and runs of text together
-    static constexpr int maxAttributes = 20000;
-    static constexpr int maxAttributesPerElement = 1000;
-    static constexpr size_t maxNameBytes = 256;
+    static constexpr int maxElements = 2000; ///< elements and runs of text together
+    static constexpr int maxAttributes = 5000;
+    static constexpr int maxAttributesPerElement = 500;
+    static constexpr size_t maxNameBytes = 128;
 
     static std::unique_ptr<juce::XmlElement> parse (std::string_view utf8);
     static std::unique_ptr<juce::XmlElement> parse (const juce::String& text);

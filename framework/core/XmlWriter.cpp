@@ -2,6 +2,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "framework/core/XmlWriter.h"
 
+#include "framework/core/AtomicFile.h"
+#include "framework/core/XmlReader.h"
+
 #include <vector>
 
 namespace zembra
@@ -76,6 +79,12 @@ juce::String XmlWriter::toText (juce::XmlElement& tree, const juce::XmlElement::
 {
     removeIllegalCharacters (tree);
     return tree.toString (format);
+}
+
+bool XmlWriter::write (juce::XmlElement& tree, const juce::File& file)
+{
+    const auto text = toText (tree, {});
+    return XmlReader::parse (text) != nullptr && AtomicFile::write (file, text);
 }
 
 void XmlWriter::pack (juce::XmlElement& tree, juce::MemoryBlock& destination)

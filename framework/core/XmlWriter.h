@@ -22,6 +22,11 @@ struct XmlWriter
 
     static juce::String toText (juce::XmlElement& tree, const juce::XmlElement::TextFormat& format);
 
+    /** Replaces a file with the tree as a document, in one step. False, with the old file whole, if
+        it can't be written or is too big to be read again.
+    */
+    static bool write (juce::XmlElement& tree, const juce::File& file);
+
     /** Replaces the contents of `destination` with the tree in the packing that JUCE gives chunks:
         a magic number and the length of the text, both 32 bits little-endian, then the text as
         UTF-8 on one line and a zero.

@@ -1,6 +1,5 @@
 // Loading and saving of presets and states.
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "framework/core/AtomicFile.h"
 #include "framework/core/PluginProcessor.h"
 #include "framework/core/XmlReader.h"
 #include "framework/core/XmlWriter.h"
@@ -151,7 +150,7 @@ bool PresetFileManager::savePresetToFile (const juce::File& file)
     addTexts (*root);
     addElements (*root);
 
-    if (! AtomicFile::write (file, XmlWriter::toText (*root, {})))
+    if (! XmlWriter::write (*root, file))
         return false;
 
     scanUserPresets();

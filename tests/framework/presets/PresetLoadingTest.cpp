@@ -256,6 +256,11 @@ TEST_F (PresetLoadingTest, KeepsTheOldPresetWhenASaveFails)
     EXPECT_EQ (log.take(), "");
     EXPECT_EQ (folders.user.getNumberOfChildFiles (juce::File::findFiles), 2)
         << "nothing is left over";
+
+    manager.setDescription (juce::String::repeatedString ("long ", XmlReader::maxBytes / 5));
+    EXPECT_FALSE (manager.savePresetToFile (a)) << "it couldn't be read again";
+    EXPECT_EQ (a.loadFileAsString(), before);
+    manager.setDescription ({});
     EXPECT_TRUE (manager.savePresetToFile (a));
     EXPECT_FALSE (manager.isDirty());
 }
