@@ -22,7 +22,9 @@ public:
     /** Holds a whole block by one amount, 0 to 1. */
     void process (juce::AudioBuffer<float>& buffer, int numSamples, float amount);
 
-    /** Holds a block by an amount per sample, 0 to 1. Allocates when channels were added. */
+    /** Holds a block by an amount per sample, 0 to 1. Allocates when channels beyond two
+        were added.
+    */
     void process (juce::AudioBuffer<float>& buffer, int numSamples, const float* amounts);
 
 private:
@@ -32,6 +34,6 @@ private:
 
     float longestHold = 0.0f;
     float counter = 1.0f;
-    std::vector<float> held = std::vector<float> (1);
+    std::vector<float> held = std::vector<float> (2); ///< room for stereo from the start
     size_t numHeldChannels = 1;
 };
