@@ -4,6 +4,7 @@
 
 #include "framework/dsp/GainRamp.h"
 #include "framework/dsp/SoftClipper.h"
+#include "framework/dsp/Chunk.h"
 
 /** y = (1 - d) x + d clip(...clip(16^d x)), each factor gliding; transparent at d = 0.
 
@@ -13,26 +14,46 @@
 class DriveStage final
 {
 public:
+    /** The factors of the formula. */
+    struct Controls
+    {
+        zembra::Control input; ///< 16^d
+        zembra::Control dry;   ///< 1 - d
+        zembra::Control wet;   ///< d
+        int numClips = 0;      ///< 2 or 3; 0 while nothing needs to be done
+    };
+
     explicit DriveStage (float asymmetry);
 
-    /** Makes room for blocks of `numSamples` samples. */
-    void ensureCapacity (int numChannels, int numSamples);
+    /** The stage's formula. */
+    template <int numClips, typename Sample>
+    static Sample process (Sample x, Sample input, Sample dry, Sample wet,
+                           const zembra::SoftClipper& clipper) noexcept
+    {
+        static_assert (numClips == 2 || numClips == 3);
+        auto driven = clipper.clip (clipper.clip (x * input));
 
-    /** Drives a whole block by one amount, 0 to 1. Allocates only for a block longer than any
-        announced one.
-    */
-    void process (juce::AudioBuffer<float>& buffer, int numSamples, float newAmount);
+        if constexpr (numClips == 3)
+            driven = clipper.clip (driven);
 
-    /** Drives a block by an amount per sample, 0 to 1. */
-    void process (juce::AudioBuffer<float>& buffer, int numChannels, int numSamples,
-                  const float* amounts);
+        return x * dry + driven * wet;
+    }
+
+    /** Steers a chunk by one amount, 0 to 1. */
+    void steer (const zembra::Chunk& chunk, float amount) noexcept;
+
+    /** Steers a chunk by an amount that the LFO lowers, sample by sample. */
+    void steer (const zembra::Chunk& chunk, float amount, float depth, const float* lfo) noexcept;
+
+    Controls& getControls() noexcept { return controls; }
+    const zembra::SoftClipper& getClipper() const noexcept { return clipper; }
 
 private:
-    void setAmount (float newAmount);
+    void setAmount (float newAmount) noexcept;
 
     zembra::SoftClipper clipper;
     zembra::GainRamp inputGain, dryGain, wetGain;
-    juce::AudioBuffer<float> work;
+    Controls controls;
     float amount = 0.0f;
     float dryLevel = 1.0f;
     float preGain = 1.0f;
