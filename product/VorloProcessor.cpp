@@ -69,10 +69,8 @@ void VorloProcessor::listenToParams()
 
 std::array<VorloProcessor::CachedParam*, 10> VorloProcessor::getNormalisedCaches()
 {
-    return {
-        &drive,         &driveDepth,      &crush,          &crushDepth,  &downsamp,
-        &downsampDepth, &filterFreqDepth, &filterResDepth, &filterRes[0], &filterRes[1]
-    };
+    return { &drive,         &driveDepth,      &crush,          &crushDepth,   &downsamp,
+             &downsampDepth, &filterFreqDepth, &filterResDepth, &filterRes[0], &filterRes[1] };
 }
 
 void VorloProcessor::paramChanged (zembra::Param* param, double plain, double normalised,

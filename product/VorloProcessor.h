@@ -100,8 +100,8 @@ private:
     int numInputs = 0;
     int numOutputs = 0;
     int blockCapacity = 0;
-    juce::AudioBuffer<float> dryBuffer{ 2, 512 };  ///< the input, for the dry signal
-    juce::AudioBuffer<float> modBuffer{ 2, 512 };  ///< channel 0: the LFO, 0 to 1
+    juce::AudioBuffer<float> dryBuffer{ 2, 512 }; ///< the input, for the dry signal
+    juce::AudioBuffer<float> modBuffer{ 2, 512 }; ///< channel 0: the LFO, 0 to 1
 
     Settings settings{};
     CachedParam drive, driveDepth, crush, crushDepth, downsamp, downsampDepth;

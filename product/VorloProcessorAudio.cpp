@@ -37,7 +37,8 @@ void VorloProcessor::processAudio (juce::AudioBuffer<float>& buffer, juce::MidiB
 
     for (int start = 0; start < numSamples;)
     {
-        const auto chunk = getChunk (start, numSamples, settings.isModulated() || ! settings.isFused);
+        const auto chunk =
+            getChunk (start, numSamples, settings.isModulated() || ! settings.isFused);
         steerDrive (chunk);
         steerCrush (chunk);
         steerDownsample (chunk);
@@ -221,7 +222,7 @@ void VorloProcessor::steerMix (const zembra::Chunk& chunk)
     const auto& dry = dryWet.steer (chunk).dry;
 
     // Silence, whatever the input: an infinity times 0 would be none.
-    if (! dry.isMoving() && dry.getValue() == 0.0f)
+    if (dry.isSteadyAt (0.0f))
         dryBuffer.clear (chunk.start, chunk.length);
 }
 
@@ -249,6 +250,7 @@ float VorloProcessor::runLoop (juce::AudioBuffer<float>& buffer, const zembra::C
                      dryRight },
                    chunk.length);
         largest = std::max (largest, loop.run());
+        driveStage.endPull();
     }
 
     if (! settings.isFused && settings.filter.enabled)

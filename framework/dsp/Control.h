@@ -35,6 +35,7 @@ public:
             std::fill_n (curve.begin(), numFrames, value);
     }
 
+    bool isSteadyAt (float v) const noexcept { return ! moving && value == v; }
     bool isMoving() const noexcept { return moving; }
     float getValue() const noexcept { return value; }
     const float* getCurve() const noexcept { return curve.data(); }

@@ -46,15 +46,14 @@ inline Tangent fastTangent (float x) noexcept
     const auto isLow = x <= quarterPi;
     const auto a = isLow ? x : (halfPi - x) + halfPiRest;
     const auto z = a * a;
-    const auto series =
-        (((((9.38540185543e-3f * z + 3.11992232697e-3f) * z + 2.44301354525e-2f) * z
-           + 5.34112807005e-2f)
-              * z
-          + 1.33387994085e-1f)
-             * z
-         + 3.33331568548e-1f)
-                * z * a
-        + a;
+    const auto series = (((((9.38540185543e-3f * z + 3.11992232697e-3f) * z + 2.44301354525e-2f) * z
+                           + 5.34112807005e-2f)
+                              * z
+                          + 1.33387994085e-1f)
+                             * z
+                         + 3.33331568548e-1f)
+                            * z * a
+                        + a;
     return { isLow ? series : 1.0f, isLow ? 1.0f : series };
 }
 

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "framework/dsp/Control.h"
+#include "framework/dsp/SampleMath.h"
 
 #include <juce_audio_basics/juce_audio_basics.h>
 
@@ -31,14 +32,15 @@ public:
     void applyToBlock (juce::AudioBuffer<float>& buffer, int numSamples, float target) noexcept;
 
     /** Moves one sample on towards `target`; returns the gain for that sample. */
-    float advance (float target) noexcept
-    {
-        if (gain == target)
-            return target;
+    float advance (float target) noexcept { return advance (gain, target); }
 
-        constexpr auto share = 1.0f / static_cast<float> (steps);
-        const auto moved = (target - gain) * share + gain;
-        gain = isClose (gain, target) ? target : moved;
+    /** The step of one sample, for one gain or for several at a time. */
+    template <typename Sample>
+    static Sample advance (Sample& gain, Sample target) noexcept
+    {
+        const auto distance = target - gain;
+        const auto moved = distance * Sample (1.0f / static_cast<float> (steps)) + gain;
+        gain = unlessPositive (magnitude (distance) - Sample (closeEnough), target, moved);
         return moved;
     }
 
@@ -53,7 +55,9 @@ private:
     };
 
     Glide glide (int numSamples, float target) noexcept;
-    static bool isClose (float a, float b) noexcept { return std::abs (a - b) <= 1e-5f; }
+    static bool isClose (float a, float b) noexcept { return std::abs (a - b) <= closeEnough; }
+
+    static constexpr float closeEnough = 1e-5f;
 
     float gain = 1.0f;
 };

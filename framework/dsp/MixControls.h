@@ -12,6 +12,13 @@ struct MixControls
 {
     Control dry, wet;
 
+    template <typename Function>
+    void forEach (Function&& function)
+    {
+        function (dry);
+        function (wet);
+    }
+
     template <typename Sample>
     static Sample process (Sample processed, Sample input, Sample wetGain, Sample dryGain) noexcept
     {

@@ -76,7 +76,19 @@ struct ScalarFrames final
 
     static Frame frame (float left, float right) { return Frame ({ left, right }); }
     static Frame frame (const float* curve) { return Frame (curve[0]); }
-    static Pair pair (const float* curve) { return Pair ({ curve[0], curve[0], curve[1], curve[1] }); }
+    static Pair pair (const float* curve)
+    {
+        return Pair ({ curve[0], curve[0], curve[1], curve[1] });
+    }
+
+    /** Four numbers of any meaning, and two lots of them spread over the frames of a pair. */
+    static Pair four (const float* v) { return Pair ({ v[0], v[1], v[2], v[3] }); }
+
+    template <size_t index>
+    static Pair pickPair (Pair a, Pair b)
+    {
+        return Pair ({ a[index], a[index], b[index], b[index] });
+    }
 
     static Pair load (const float* left, const float* right)
     {
@@ -105,6 +117,7 @@ struct ScalarFrames final
     static Frame first (Pair x) { return Frame ({ x[0], x[1] }); }
     static Frame second (Pair x) { return Frame ({ x[2], x[3] }); }
     static Pair join (Frame a, Frame b) { return Pair ({ a[0], a[1], b[0], b[1] }); }
+    static float get (Pair x, size_t i) { return x[i]; }
     static float getLeft (Frame x) { return x[0]; }
     static float getRight (Frame x) { return x[1]; }
     static float getLargest (Pair x) { return std::max ({ x[0], x[1], x[2], x[3] }); }

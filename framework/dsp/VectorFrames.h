@@ -64,14 +64,13 @@ public:
         const auto offset = _mm_set1_pd (wholeInLowBits);
         const auto low = _mm_add_pd (_mm_cvtps_pd (x.values), offset);
         const auto high = _mm_add_pd (_mm_cvtps_pd (_mm_movehl_ps (x.values, x.values)), offset);
-        const auto whole = _mm_shuffle_ps (_mm_castpd_ps (low), _mm_castpd_ps (high),
-                                           _MM_SHUFFLE (2, 0, 2, 0));
+        const auto whole =
+            _mm_shuffle_ps (_mm_castpd_ps (low), _mm_castpd_ps (high), _MM_SHUFFLE (2, 0, 2, 0));
         return VectorLanes (_mm_cvtepi32_ps (_mm_castps_si128 (whole)));
 #else
-        return VectorLanes (Floats{ zembra::roundWrapping (x.values[0]),
-                                    zembra::roundWrapping (x.values[1]),
-                                    zembra::roundWrapping (x.values[2]),
-                                    zembra::roundWrapping (x.values[3]) });
+        return VectorLanes (
+            Floats{ zembra::roundWrapping (x.values[0]), zembra::roundWrapping (x.values[1]),
+                    zembra::roundWrapping (x.values[2]), zembra::roundWrapping (x.values[3]) });
 #endif
     }
 
@@ -82,7 +81,10 @@ private:
         return Ints{ sign, sign, sign, sign };
     }
 
-    static VectorLanes fromBits (Ints b) noexcept { return VectorLanes (std::bit_cast<Floats> (b)); }
+    static VectorLanes fromBits (Ints b) noexcept
+    {
+        return VectorLanes (std::bit_cast<Floats> (b));
+    }
     Ints bits() const noexcept { return std::bit_cast<Ints> (values); }
 
     Floats values{};
@@ -100,7 +102,10 @@ struct VectorFrames final
     using Pair = VectorLanes;
     using Floats = VectorLanes::Floats;
 
-    static Frame frame (float left, float right) { return Frame (Floats{ left, right, left, right }); }
+    static Frame frame (float left, float right)
+    {
+        return Frame (Floats{ left, right, left, right });
+    }
 
     /** The value of a curve at a frame, for both channels. */
     static Frame frame (const float* curve) { return Frame (*curve); }
@@ -109,6 +114,20 @@ struct VectorFrames final
     static Pair pair (const float* curve)
     {
         return Pair (Floats{ curve[0], curve[0], curve[1], curve[1] });
+    }
+
+    /** Four numbers of any meaning, at an address that is a multiple of 16. */
+    static Pair four (const float* v)
+    {
+        return Pair (*std::launder (reinterpret_cast<const Floats*> (v)));
+    }
+
+    /** One of the four numbers of two frames, for both channels. */
+    template <int index>
+    static Pair pickPair (Pair a, Pair b)
+    {
+        return Pair (
+            __builtin_shufflevector (a.get(), b.get(), index, index, 4 + index, 4 + index));
     }
 
     static Pair load (const float* left, const float* right)
@@ -147,6 +166,7 @@ struct VectorFrames final
         return Pair (__builtin_shufflevector (a.get(), b.get(), 0, 1, 4, 5));
     }
 
+    static float get (Pair x, int i) { return x.get()[i]; }
     static float getLeft (Frame x) { return x.get()[0]; }
     static float getRight (Frame x) { return x.get()[1]; }
 

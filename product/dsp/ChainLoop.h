@@ -11,8 +11,8 @@
     work is done while the ladder waits. Both channels lie in the lanes of one register, and the
     stages without feedback take two frames at a time.
 
-    The loop is compiled for each sort of chunk: with steady controls or with a curve for each, with
-    the drive or without, for each filter or none. The formulas are the stages' own.
+    The loop is compiled for each sort of chunk: with steady controls or with a curve for each, for
+    each mode of the drive, for each filter or none. The formulas are the stages' own.
 
     @tparam Frames  VectorFrames, or ScalarFrames for the same result to the last bit
 */
@@ -72,18 +72,17 @@ private:
     template <typename Function>
     void forEachControl (Function&& function)
     {
-        auto& drive = stages.drive.getControls();
-
-        for (auto* control : { &drive.input, &drive.dry, &drive.wet, &stages.crush.getScale(),
-                               &stages.hold.getHoldLength() })
+        for (auto* control : { &stages.crush.getScale(), &stages.hold.getHoldLength() })
             function (*control);
+
+        if (stages.drive.getMode() == DriveStage::Mode::steered)
+            stages.drive.getControls().forEach (function);
 
         if (stages.filter != nullptr)
             stages.filter->getTuning().forEach (function);
 
         if (stages.mix != nullptr)
-            for (auto* control : { &stages.mix->dry, &stages.mix->wet })
-                function (*control);
+            stages.mix->forEach (function);
     }
 
     // What is to be compiled for is chosen one by one, and the loop then run with all of it.
@@ -91,14 +90,14 @@ private:
     template <typename Reader, typename Hold>
     float withDrive()
     {
-        switch (stages.drive.getControls().numClips)
+        switch (stages.drive.getMode())
         {
-        case 0:
+        case DriveStage::Mode::nothing:
             return withFilter<Reader, Hold, typename Parts::NoDrive>();
-        case 2:
-            return withFilter<Reader, Hold, typename Parts::template Drive<Reader, 2>>();
+        case DriveStage::Mode::steered:
+            return withFilter<Reader, Hold, typename Parts::template SteeredDrive<Reader>>();
         default:
-            return withFilter<Reader, Hold, typename Parts::template Drive<Reader, 3>>();
+            return withFilter<Reader, Hold, typename Parts::PulledDrive>();
         }
     }
 
@@ -122,7 +121,7 @@ private:
     template <typename Reader, typename Hold, typename Drive, typename Filter, typename Mix>
     float loop()
     {
-        const Drive drive (stages.drive);
+        Drive drive (stages.drive);
         const typename Parts::template Crush<Reader> crush (stages.crush);
         Hold hold (stages.hold, channels.numbers);
         Filter filter (stages.filter, channels.numbers);
@@ -134,7 +133,7 @@ private:
 
         for (; i < length - 1; i += 2)
         {
-            const auto x = crush (drive (Frames::load (left + i, right + i), i), i);
+            const auto x = crush (drive.pair (Frames::load (left + i, right + i), i), i);
             const auto a = filter (hold (Frames::first (x), i), i);
             const auto b = filter (hold (Frames::second (x), i + 1), i + 1);
             const auto y = mix (Frames::join (a, b), Frames::load (dryLeft + i, dryRight + i), i);
@@ -144,13 +143,15 @@ private:
 
         if (i < length)
         {
-            const auto x = crush (drive (Frames::loadOne (left + i, right + i), i), i);
+            const auto x = crush (drive.one (Frames::loadOne (left + i, right + i), i), i);
             const auto a = filter (hold (Frames::first (x), i), i);
-            const auto y = mix (Frames::join (a, a), Frames::loadOne (dryLeft + i, dryRight + i), i);
+            const auto y =
+                mix (Frames::join (a, a), Frames::loadOne (dryLeft + i, dryRight + i), i);
             peak = larger (magnitude (y), peak);
             Frames::storeOne (y, left + i, right + i);
         }
 
+        drive.finish (stages.drive);
         hold.finish (stages.hold, numbers);
         filter.finish (stages.filter, numbers);
         return Frames::getLargest (peak);

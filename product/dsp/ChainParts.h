@@ -63,13 +63,15 @@ struct ChainParts
     struct NoDrive
     {
         explicit NoDrive (DriveStage&) {}
-        Pair operator() (Pair x, int) const { return x; }
+        Pair pair (Pair x, int) const { return x; }
+        Pair one (Pair x, int) const { return x; }
+        void finish (DriveStage&) const {}
     };
 
-    template <typename Reader, int numClips>
-    struct Drive
+    template <typename Reader>
+    struct SteeredDrive
     {
-        explicit Drive (DriveStage& stage)
+        explicit SteeredDrive (DriveStage& stage)
             : input (stage.getControls().input),
               dry (stage.getControls().dry),
               wet (stage.getControls().wet),
@@ -77,12 +79,61 @@ struct ChainParts
         {
         }
 
-        Pair operator() (Pair x, int i) const
+        Pair pair (Pair x, int i) const
         {
-            return DriveStage::process<numClips> (x, input[i], dry[i], wet[i], clipper);
+            return DriveStage::process<2> (x, input[i], dry[i], wet[i], clipper);
         }
 
+        Pair one (Pair x, int i) const { return pair (x, i); }
+        void finish (DriveStage&) const {}
+
         typename Reader::PairValue input, dry, wet;
+        zembra::SoftClipper clipper;
+    };
+
+    /** Its three factors move in the lanes of one register, a step for each frame. */
+    struct PulledDrive
+    {
+        explicit PulledDrive (DriveStage& stage)
+            : targets (stage.getTargets()),
+              clipper (stage.getClipper())
+        {
+            alignas (16) const auto start = stage.getFactors();
+            factors = Frames::four (&start.input);
+        }
+
+        Pair pair (Pair x, int i)
+        {
+            const auto first = advance (i);
+            return process (x, first, advance (i + 1));
+        }
+
+        Pair one (Pair x, int i)
+        {
+            const auto first = advance (i);
+            return process (x, first, first);
+        }
+
+        Pair advance (int i)
+        {
+            return zembra::GainRamp::advance (factors, Frames::four (&targets[i].input));
+        }
+
+        Pair process (Pair x, Pair first, Pair second) const
+        {
+            return DriveStage::process<3> (x, Frames::template pickPair<0> (first, second),
+                                           Frames::template pickPair<1> (first, second),
+                                           Frames::template pickPair<2> (first, second), clipper);
+        }
+
+        void finish (DriveStage& stage) const
+        {
+            stage.setFactors ({ Frames::get (factors, 0), Frames::get (factors, 1),
+                                Frames::get (factors, 2), 0.0f });
+        }
+
+        const DriveStage::Factors* targets;
+        Pair factors;
         zembra::SoftClipper clipper;
     };
 
@@ -116,8 +167,8 @@ struct ChainParts
     {
         Hold (SampleHoldStage& stage, Numbers channels)
             : length (stage.getHoldLength()),
-              state{ Frame (stage.getCounter()), Frames::frame (stage.getHeld (channels.left),
-                                                                stage.getHeld (channels.right)) }
+              state{ Frame (stage.getCounter()),
+                     Frames::frame (stage.getHeld (channels.left), stage.getHeld (channels.right)) }
         {
         }
 
@@ -147,9 +198,8 @@ struct ChainParts
         using Value = typename Reader::FrameValue;
 
         Ladder (FilterStage* stage, Numbers channels)
-            : tuning{ Value (stage->getTuning().g),         Value (stage->getTuning().b),
-                      Value (stage->getTuning().feedback),  Value (stage->getTuning().inputGain),
-                      Value (stage->getTuning().outputGain), Value (stage->getTuning().estimate) },
+            : tuning{ Value (stage->getTuning().g), Value (stage->getTuning().b),
+                      Value (stage->getTuning().feedback), Value (stage->getTuning().estimate) },
               clipper (stage->getClipper())
         {
             const auto& left = stage->getState (channels.left);
@@ -160,9 +210,8 @@ struct ChainParts
 
         Frame operator() (Frame x, int i)
         {
-            const LadderTuning<Frame> now{ tuning.g[i],         tuning.b[i],
-                                           tuning.feedback[i],  tuning.inputGain[i],
-                                           tuning.outputGain[i], tuning.estimate[i] };
+            const LadderTuning<Frame> now{ tuning.g[i], tuning.b[i], tuning.feedback[i],
+                                           tuning.estimate[i] };
             return Filter::process (x, now, state, clipper);
         }
 

@@ -15,7 +15,8 @@ void CrushStage::steer (float amount) noexcept
     control.set (scale);
 }
 
-void CrushStage::steer (const zembra::Chunk& chunk, float amount, float depth, const float* lfo) noexcept
+void CrushStage::steer (const zembra::Chunk& chunk, float amount, float depth,
+                        const float* lfo) noexcept
 {
     auto* const scales = control.move();
 

@@ -2,9 +2,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "framework/dsp/Chunk.h"
 #include "framework/dsp/Control.h"
 #include "framework/dsp/SampleMath.h"
-#include "framework/dsp/Chunk.h"
 
 /** Rounds each sample to a grid of 2^bits steps over -1 to 1, from 24 bits down to about one.
     It always runs: at amount 0 the signal is still rounded to 24 bits. A product with the scale that

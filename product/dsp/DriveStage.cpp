@@ -18,7 +18,7 @@ void DriveStage::setAmount (float newAmount) noexcept
 
 void DriveStage::steer (const zembra::Chunk& chunk, float newAmount) noexcept
 {
-    auto& [input, dry, wet, numClips] = controls;
+    auto& [input, dry, wet] = controls;
 
     if (chunk.isFirst())
     {
@@ -34,32 +34,34 @@ void DriveStage::steer (const zembra::Chunk& chunk, float newAmount) noexcept
         wetGain.rest (wet);
     }
 
-    const auto isTransparent = ! dry.isMoving() && dry.getValue() == 1.0f && ! wet.isMoving()
-                               && wet.getValue() == 0.0f;
-    numClips = isTransparent ? 0 : 2;
+    const auto isTransparent = dry.isSteadyAt (1.0f) && wet.isSteadyAt (0.0f);
+    mode = isTransparent ? Mode::nothing : Mode::steered;
 }
 
-void DriveStage::steer (const zembra::Chunk& chunk, float newAmount, float depth, const float* lfo) noexcept
+void DriveStage::steer (const zembra::Chunk& chunk, float newAmount, float depth,
+                        const float* lfo) noexcept
 {
-    auto* const input = controls.input.move();
-    auto* const dry = controls.dry.move();
-    auto* const wet = controls.wet.move();
-    controls.numClips = 3;
-
     for (int i = 0; i < chunk.length; ++i)
     {
-        wet[i] = newAmount - lfo[i] * (newAmount * depth);
-        dry[i] = 1.0f - wet[i];
-        input[i] = zembra::fastExp2 (4.0f * wet[i]);
+        const auto pulled = newAmount - lfo[i] * (newAmount * depth);
+        targets[static_cast<size_t> (i)] = { zembra::fastExp2 (4.0f * pulled), 1.0f - pulled,
+                                             pulled, 0.0f };
     }
 
-    for (int i = 0; i < chunk.length; ++i)
-    {
-        input[i] = inputGain.advance (input[i]);
-        dry[i] = dryGain.advance (dry[i]);
-        wet[i] = wetGain.advance (wet[i]);
-    }
+    mode = Mode::pulled;
 
     // A steady amount takes its factors anew, from the library's exact function.
     amount = -1.0f;
+}
+
+DriveStage::Factors DriveStage::getFactors() const noexcept
+{
+    return { inputGain.getGain(), dryGain.getGain(), wetGain.getGain(), 0.0f };
+}
+
+void DriveStage::setFactors (const Factors& reached) noexcept
+{
+    inputGain.setGain (reached.input);
+    dryGain.setGain (reached.dry);
+    wetGain.setGain (reached.wet);
 }

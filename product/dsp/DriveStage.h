@@ -2,9 +2,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "framework/dsp/Chunk.h"
 #include "framework/dsp/GainRamp.h"
 #include "framework/dsp/SoftClipper.h"
-#include "framework/dsp/Chunk.h"
 
 /** y = (1 - d) x + d clip(...clip(16^d x)), each factor gliding; transparent at d = 0.
 
@@ -14,13 +14,33 @@
 class DriveStage final
 {
 public:
-    /** The factors of the formula. */
+    /** What there is to do in a chunk. */
+    enum class Mode
+    {
+        nothing, ///< transparent
+        steered, ///< two clips, the factors are the controls
+        pulled   ///< three clips, the factors follow the targets step by step
+    };
+
+    /** The factors of the formula while they are steered. */
     struct Controls
     {
         zembra::Control input; ///< 16^d
         zembra::Control dry;   ///< 1 - d
         zembra::Control wet;   ///< d
-        int numClips = 0;      ///< 2 or 3; 0 while nothing needs to be done
+
+        template <typename Function>
+        void forEach (Function&& function)
+        {
+            for (auto* control : { &input, &dry, &wet })
+                function (*control);
+        }
+    };
+
+    /** The factors of one sample. */
+    struct Factors
+    {
+        float input, dry, wet, unused;
     };
 
     explicit DriveStage (float asymmetry);
@@ -42,10 +62,22 @@ public:
     /** Steers a chunk by one amount, 0 to 1. */
     void steer (const zembra::Chunk& chunk, float amount) noexcept;
 
-    /** Steers a chunk by an amount that the LFO lowers, sample by sample. */
+    /** Steers a chunk of at most 256 samples by an amount that the LFO lowers, sample by sample. */
     void steer (const zembra::Chunk& chunk, float amount, float depth, const float* lfo) noexcept;
 
+    Mode getMode() const noexcept { return mode; }
     Controls& getControls() noexcept { return controls; }
+
+    /** Where the factors of a pulled chunk tend to, one for each sample and one to spare. */
+    const Factors* getTargets() const noexcept { return targets.data(); }
+
+    /** Where the factors of a pulled chunk begin, and where they have come to. */
+    Factors getFactors() const noexcept;
+    void setFactors (const Factors& reached) noexcept;
+
+    /** Leaves the rest of the channels as they are, if the chunk is a pulled one. */
+    void endPull() noexcept { mode = mode == Mode::pulled ? Mode::nothing : mode; }
+
     const zembra::SoftClipper& getClipper() const noexcept { return clipper; }
 
 private:
@@ -53,7 +85,9 @@ private:
 
     zembra::SoftClipper clipper;
     zembra::GainRamp inputGain, dryGain, wetGain;
+    Mode mode = Mode::nothing;
     Controls controls;
+    alignas (16) std::array<Factors, zembra::Control::maxFrames + 1> targets{};
     float amount = 0.0f;
     float dryLevel = 1.0f;
     float preGain = 1.0f;

@@ -102,12 +102,12 @@ void FilterStage::fillCurves (Curves& curves, int numSamples, const float* lfo) 
         for (size_t i = 0; i < static_cast<size_t> (numSamples); ++i)
             res[i] = (1.0f - lfo[i] * settings.resDepth) * res[i];
 
-    if (settings.freqDepth != 0.0f)
+    if (settings.freqDepth != 0.0f) // ends above the lowest cutoff
         for (size_t i = 0; i < static_cast<size_t> (numSamples); ++i)
             freq[i] = freq[i] + freq[i] * (lfo[i] * -settings.freqDepth) + lowestModulated;
-
-    for (size_t i = 0; i < static_cast<size_t> (numSamples); ++i)
-        freq[i] = freq[i] > lowestCutoff ? freq[i] : lowestCutoff;
+    else
+        for (size_t i = 0; i < static_cast<size_t> (numSamples); ++i)
+            freq[i] = freq[i] > lowestCutoff ? freq[i] : lowestCutoff;
 }
 
 void FilterStage::steer (const zembra::Chunk& chunk, const float* lfo) noexcept

@@ -92,7 +92,8 @@ private:
     void setTargets() noexcept;
     void fillCurves (Curves& curves, int numSamples, const float* lfo) noexcept;
     template <typename Filter>
-    void steer (Filter& first, Filter& second, const zembra::Chunk& chunk, const float* lfo) noexcept;
+    void steer (Filter& first, Filter& second, const zembra::Chunk& chunk,
+                const float* lfo) noexcept;
     template <typename Filter>
     void steerSteadily (Filter& filter) noexcept;
     template <typename Filter>

@@ -37,8 +37,6 @@ void LadderCoefficients::trace (const float* cutoffs, const float* resonances, i
     auto* const g = controls.g.move();
     auto* const b = controls.b.move();
     auto* const feedback = controls.feedback.move();
-    auto* const inputGain = controls.inputGain.move();
-    auto* const outputGain = controls.outputGain.move();
     const auto highest = nyquist;
     const auto radiansPerHertz = invSampleRate * pi;
 
@@ -48,10 +46,10 @@ void LadderCoefficients::trace (const float* cutoffs, const float* resonances, i
         const auto [n, d] = zembra::fastTangent (radiansPerHertz * limited);
         g[i] = n / (n + d);
         b[i] = (n - d) / (n + d);
-        feedback[i] = resonances[i] * 3.99999f;
-        outputGain[i] = feedback[i] + 1.0f;
-        inputGain[i] = 1.0f / outputGain[i];
     }
+
+    for (int i = 0; i < numSamples; ++i)
+        feedback[i] = resonances[i] * highestFeedback;
 
     constexpr float unknown = -1.0f;
     targetCutoff = cutoffs[numSamples - 1];

@@ -8,13 +8,14 @@
 template <typename Value>
 struct LadderTuning
 {
-    Value g, b, feedback, inputGain, outputGain;
+    Value g, b;     ///< of the stages
+    Value feedback; ///< 0 to 4
     Value estimate; ///< what the filter makes of g and the feedback for its estimate
 
     template <typename Function>
     void forEach (Function&& function)
     {
-        for (auto* value : { &g, &b, &feedback, &inputGain, &outputGain, &estimate })
+        for (auto* value : { &g, &b, &feedback, &estimate })
             function (*value);
     }
 
@@ -25,8 +26,6 @@ struct LadderTuning
         set (g, other.g);
         set (b, other.b);
         set (feedback, other.feedback);
-        set (inputGain, other.inputGain);
-        set (outputGain, other.outputGain);
         set (estimate, other.estimate);
     }
 };
@@ -61,18 +60,14 @@ public:
         return true;
     }
 
-    /** Sets the resonance, 0 to 1; true if that is a change. The input is lowered as the feedback
-        rises, and the output raised by as much.
-    */
+    /** Sets the resonance, 0 to 1; true if that is a change. */
     bool setResonance (float newResonance) noexcept
     {
         if (newResonance == res)
             return false;
 
         res = newResonance;
-        tuning.feedback = res * 3.99999f;
-        tuning.inputGain = 1.0f / (tuning.feedback + 1.0f);
-        tuning.outputGain = tuning.feedback + 1.0f;
+        tuning.feedback = res * highestFeedback;
         return true;
     }
 
@@ -83,9 +78,11 @@ public:
     void trace (const float* cutoffs, const float* resonances, int numSamples,
                 LadderTuning<zembra::Control>& controls) noexcept;
 
-    LadderTuning<float> tuning{ 0.0f, 0.0f, 0.0f, 1.0f, 1.0f, 1.0f };
+    LadderTuning<float> tuning{ 0.0f, 0.0f, 0.0f, 1.0f };
 
 private:
+    static constexpr float highestFeedback = 3.99999f;
+
     void tune (float newCutoff) noexcept;
 
     float targetCutoff = 0.0f; ///< as asked for, Hz

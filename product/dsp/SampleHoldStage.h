@@ -2,9 +2,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "framework/dsp/Chunk.h"
 #include "framework/dsp/Control.h"
 #include "framework/dsp/SampleMath.h"
-#include "framework/dsp/Chunk.h"
 
 #include <vector>
 

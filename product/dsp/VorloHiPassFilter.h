@@ -24,7 +24,11 @@ public:
         const auto h = Sample (1.0f) - g;
         auto& [s1, s2, s3, s4] = state;
 
-        const auto v = x * tuning.inputGain;
+        // What a steady feedback comes to is worked out once, before a loop.
+        const auto outputGain = tuning.feedback + Sample (1.0f);
+        const auto inputGain = Sample (1.0f) / outputGain;
+
+        const auto v = x * inputGain;
         const auto y = ((((h * v - s1) * h - s2) * h - s3) * h - s4) / tuning.estimate;
 
         const auto e1 = v - tuning.feedback * y;
@@ -45,17 +49,14 @@ public:
         const auto e4 = e3 - l3;
         const auto u4 = g * e4;
         s4 = u4 - (u4 + s4) * b;
-        return y * tuning.outputGain;
+        return y * outputGain;
     }
 
     void prepare (float sampleRate, int blockSize) override;
     void reset() override { state = {}; }
     void process (float* samples, int numSamples) override;
 
-    float process (float x) override
-    {
-        return process (x, coefficients.tuning, state, clipper);
-    }
+    float process (float x) override { return process (x, coefficients.tuning, state, clipper); }
 
     /** Sets the cutoff in Hz, at least 2; above half the sample rate that is taken instead. */
     void setCutoff (float cutoff) noexcept

@@ -9,7 +9,8 @@
 /** Four bilinear one-pole stages in transposed form (out = g in + s, s' = g in - b out) inside one
     feedback loop whose delay-free output is estimated first; the states of stages 1 and 3 are
     soft-clipped. Compare V. Zavalishin, "The Art of VA Filter Design", on the zero-delay ladder. The
-    estimate takes its input unscaled by g, which is this filter's own character. [audio thread]
+    estimate takes its input unscaled by g, which is this filter's own character. The input is lowered
+    as the feedback rises, and the output raised by as much. [audio thread]
 */
 class VorloLowPassFilter final : public zembra::ZembraFilter
 {
@@ -25,7 +26,11 @@ public:
         const auto b = tuning.b;
         auto& [s1, s2, s3, s4] = state;
 
-        const auto v = x * tuning.inputGain;
+        // What a steady feedback comes to is worked out once, before a loop.
+        const auto outputGain = tuning.feedback + Sample (1.0f);
+        const auto inputGain = Sample (1.0f) / outputGain;
+
+        const auto v = x * inputGain;
         const auto y = ((((v + s1) * g + s2) * g + s3) * g + s4) * tuning.estimate;
 
         const auto u1 = (v - y * tuning.feedback) * g;
@@ -41,17 +46,14 @@ public:
         s3 = clipper.clip (u3 - b * w3);
 
         s4 = g * w3 - b * y;
-        return y * tuning.outputGain;
+        return y * outputGain;
     }
 
     void prepare (float sampleRate, int blockSize) override;
     void reset() override { state = {}; }
     void process (float* samples, int numSamples) override;
 
-    float process (float x) override
-    {
-        return process (x, coefficients.tuning, state, clipper);
-    }
+    float process (float x) override { return process (x, coefficients.tuning, state, clipper); }
 
     /** Sets the cutoff in Hz, at least 2; above half the sample rate that is taken instead. */
     void setCutoff (float cutoff) noexcept
