@@ -4,6 +4,9 @@
 
 #include "framework/dsp/ScalarFrames.h"
 
+#include <cstring>
+#include <new>
+
 #if defined(__GNUC__)
 #define ZEMBRA_HAS_VECTOR_FRAMES 1
 #else
@@ -113,7 +116,8 @@ struct VectorFrames final
     /** The values of a curve at two frames, for both channels. */
     static Pair pair (const float* curve)
     {
-        return Pair (Floats{ curve[0], curve[0], curve[1], curve[1] });
+        const auto v = loadTwo (curve);
+        return Pair (__builtin_shufflevector (v, v, 0, 0, 1, 1));
     }
 
     /** Four numbers of any meaning, at an address that is a multiple of 16. */
@@ -132,7 +136,7 @@ struct VectorFrames final
 
     static Pair load (const float* left, const float* right)
     {
-        return Pair (Floats{ left[0], right[0], left[1], right[1] });
+        return Pair (__builtin_shufflevector (loadTwo (left), loadTwo (right), 0, 4, 1, 5));
     }
 
     /** The last frame of an odd number, twice. */
@@ -141,10 +145,11 @@ struct VectorFrames final
     static void store (Pair x, float* left, float* right)
     {
         const auto v = x.get();
-        left[0] = v[0];
-        left[1] = v[2];
-        right[0] = v[1];
-        right[1] = v[3];
+        const auto halves = std::bit_cast<Halves> (__builtin_shufflevector (v, v, 0, 2, 1, 3));
+        const double lower = halves[0];
+        const double upper = halves[1];
+        std::memcpy (left, &lower, sizeof (lower));
+        std::memcpy (right, &upper, sizeof (upper));
     }
 
     static void storeOne (Pair x, float* left, float* right)
@@ -174,6 +179,17 @@ struct VectorFrames final
     {
         const auto v = x.get();
         return std::max ({ v[0], v[1], v[2], v[3] });
+    }
+
+private:
+    using Halves [[gnu::vector_size (16)]] = double;
+
+    /** Two floats in the low half of a register, moved as the eight bytes that they are. */
+    static Floats loadTwo (const float* source)
+    {
+        double both;
+        std::memcpy (&both, source, sizeof (both));
+        return std::bit_cast<Floats> (Halves{ both, 0.0 });
     }
 };
 
