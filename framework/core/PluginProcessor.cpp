@@ -74,7 +74,15 @@ void PluginProcessor::processMidi (juce::MidiBuffer&) {}
 
 void PluginProcessor::handleAsyncUpdate() {}
 
-juce::AudioProcessorEditor* PluginProcessor::createEditor() { return createProductEditor(); }
+juce::AudioProcessorEditor* PluginProcessor::createEditor()
+{
+    auto* const editor = createProductEditor();
+
+    if (editor != nullptr)
+        initialiseEditor (*editor);
+
+    return editor;
+}
 
 juce::String PluginProcessor::getAboutText() const
 {

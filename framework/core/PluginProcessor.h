@@ -52,6 +52,9 @@ public:
     /** Makes the product's editor. [message thread] */
     virtual juce::AudioProcessorEditor* createProductEditor() = 0;
 
+    /** Common set-up of a new editor, which needs the editor's finished object. [message thread] */
+    virtual void initialiseEditor (juce::AudioProcessorEditor&) {}
+
     /** An empty preset: the root of a preset file. */
     virtual std::unique_ptr<juce::XmlElement> createPresetRoot() const;
 
@@ -118,6 +121,18 @@ public:
     const FolderRoots& getFolderRoots() const noexcept { return folderRoots; }
     const juce::String& getCompanyName() const noexcept { return info.companyName; }
     const juce::String& getVersionString() const noexcept { return info.version; }
+
+    /** The editor's size in pixels, kept while no editor is open; below 1 while it is unset.
+        [any thread]
+    */
+    int getPluginEditorWidth() const noexcept { return pluginEditorWidth; }
+    int getPluginEditorHeight() const noexcept { return pluginEditorHeight; }
+    void setPluginEditorSize (int width, int height) noexcept
+    {
+        pluginEditorWidth = width;
+        pluginEditorHeight = height;
+    }
+
     bool isMidiEnabled() const noexcept { return midiEnabled.load (std::memory_order_relaxed); }
 
 protected:
@@ -135,6 +150,8 @@ private:
     PreferencesStateManager preferences;
     std::unique_ptr<Settings> settings;
     std::atomic<int> hostSetGuard{ 0 };
+    std::atomic<int> pluginEditorWidth{ -1 };
+    std::atomic<int> pluginEditorHeight{ -1 };
     std::atomic<bool> midiEnabled{ false };
 
     JUCE_DECLARE_NON_COPYABLE_WITH_LEAK_DETECTOR (PluginProcessor)
