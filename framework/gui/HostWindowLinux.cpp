@@ -13,6 +13,10 @@ namespace
 
 using juce::X11Symbols;
 
+// X.h's KeyPress and KeyRelease, whose macros JUCE takes away.
+constexpr int keyPressType = 2;
+constexpr int keyReleaseType = 3;
+
 /** JUCE's connection to the X server; null without a display. */
 ::Display* getDisplay() { return juce::XWindowSystem::getInstance()->getDisplay(); }
 
@@ -134,6 +138,66 @@ bool isFocusInHost (::Display* display)
            || (! chain.empty() && holdsWindowOfOurs (display, chain.back()));
 }
 
+/** True if a window further up is an application's main window. `chain` starts with our own. */
+bool isInsideForeignWindow (::Display* display, const std::vector<::Window>& chain)
+{
+    const auto atom = X11Symbols::getInstance()->xInternAtom (display, "WM_STATE", True);
+
+    if (atom == None || chain.size() < 2)
+        return false;
+
+    return std::any_of (chain.begin() + 1, chain.end(),
+                        [=] (::Window window)
+                        {
+                            ::Atom type = None;
+                            int format = 0;
+                            unsigned long numItems = 0, bytesLeft = 0;
+                            unsigned char* data = nullptr;
+                            X11Symbols::getInstance()->xGetWindowProperty (
+                                display, window, atom, 0, 0, False, AnyPropertyType, &type, &format,
+                                &numItems, &bytesLeft, &data);
+
+                            if (data != nullptr)
+                                X11Symbols::getInstance()->xFree (data);
+
+                            return type != None;
+                        });
+}
+
+/** JUCE's key codes are the low byte of a function key's symbol, or a Unicode character. */
+::KeySym getKeySym (const juce::KeyPress& key)
+{
+    constexpr int functionKeys = 0xff00, juceExtendedFlag = 0x10000000, firstPrintable = 0x20;
+    constexpr int lastLatin1 = 0xff, unicodeSymbols = 0x01000000;
+    const auto code = key.getKeyCode();
+
+    if ((code & juceExtendedFlag) != 0 || code < firstPrintable)
+        return static_cast<::KeySym> (functionKeys | (code & 0xff));
+
+    return static_cast<::KeySym> (code <= lastLatin1 ? code : unicodeSymbols | code);
+}
+
+void sendKey (::Display* display, ::Window target, const juce::KeyPress& key, int type)
+{
+    auto* const symbols = X11Symbols::getInstance();
+    const auto modifiers = key.getModifiers();
+    ::XEvent event{};
+    event.xkey.type = type;
+    event.xkey.display = display;
+    event.xkey.window = target;
+    event.xkey.root = symbols->xRootWindow (display, symbols->xDefaultScreen (display));
+    event.xkey.time = CurrentTime;
+    event.xkey.same_screen = True;
+    event.xkey.keycode = symbols->xKeysymToKeycode (display, getKeySym (key));
+    event.xkey.state = static_cast<unsigned int> ((modifiers.isShiftDown() ? ShiftMask : 0)
+                                                  | (modifiers.isCtrlDown() ? ControlMask : 0)
+                                                  | (modifiers.isAltDown() ? Mod1Mask : 0));
+
+    // With propagation the event rises to the first window on the way up that listens to keys.
+    symbols->xSendEvent (display, target, True,
+                         type == keyPressType ? KeyPressMask : KeyReleaseMask, &event);
+}
+
 } // namespace
 
 bool isHostInForeground()
@@ -187,8 +251,17 @@ bool passKeyToHost (juce::Component& editor, const juce::KeyPress& key)
     if (display == nullptr || peer == nullptr)
         return false;
 
-    juce::ignoreUnused (key);
-    return false;
+    const juce::XWindowSystemUtilities::ScopedXLock lock;
+    const ErrorTrap trap (display);
+    const auto chain =
+        getChainUpFrom (display, reinterpret_cast<::Window> (peer->getNativeHandle()));
+
+    if (! isInsideForeignWindow (display, chain))
+        return false;
+
+    sendKey (display, chain[1], key, keyPressType);
+    sendKey (display, chain[1], key, keyReleaseType);
+    return true;
 }
 
 } // namespace zembra

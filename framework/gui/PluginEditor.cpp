@@ -58,6 +58,7 @@ PluginEditor::PluginEditor (PluginProcessor& processorToUse)
     setFocusContainerType (FocusContainerType::keyboardFocusContainer);
     constrainer.setSizeLimits (0, 0, unlimited, unlimited);
     dialogWorkaroundTb.setName (NonModalTopWindow::childThatStaysEnabled);
+    dialogWorkaroundTb.setWantsKeyboardFocus (false);
 
     moveDetector = std::make_unique<PluginMoveDetector> (*this);
     applyHiRes (moveDetector->isOnHiRes());

@@ -105,6 +105,12 @@ int ZembraSlider::findNearestThumb (juce::Point<float> position)
 
 bool ZembraSlider::keyPressed (const juce::KeyPress& key)
 {
+    if (key == juce::KeyPress::returnKey && getTextBoxPosition() != NoTextBox && isEnabled())
+    {
+        showTextBox();
+        return true;
+    }
+
     const auto steps = getStepsForKey (key);
 
     if (steps == 0 || ! isEnabled() || isTwoValue() || isThreeValue())

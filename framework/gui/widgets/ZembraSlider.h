@@ -12,7 +12,8 @@ namespace zembra
 /** A slider that takes its texts from a parameter.
 
     While ctrl or cmd is held a drag is fine: that is juce::Slider's velocity mode. The arrow keys
-    move by one step, the page keys by ten; holding a key down is one gesture, like a drag.
+    move by one step, the page keys by ten; holding a key down is one gesture, like a drag. Return
+    opens the text box.
 */
 class ZembraSlider : public juce::Slider
 {

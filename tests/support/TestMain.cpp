@@ -1,0 +1,11 @@
+// Runs the tests with JUCE's message thread set up, as a host would have it.
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include <gtest/gtest.h>
+#include <juce_events/juce_events.h>
+
+int main (int argc, char** argv)
+{
+    testing::InitGoogleTest (&argc, argv);
+    const juce::ScopedJuceInitialiser_GUI juceIsUp;
+    return RUN_ALL_TESTS();
+}
