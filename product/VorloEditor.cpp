@@ -47,10 +47,7 @@ VorloEditor::~VorloEditor()
     setLookAndFeel (nullptr);
 }
 
-juce::String VorloEditor::getChangeLogUrl() const
-{
-    return "https://ombrel.example/vorlo/changes";
-}
+juce::String VorloEditor::getChangeLogUrl() const { return "https://ombrel.example/vorlo/changes"; }
 
 juce::String VorloEditor::getProductPageUrl() const { return "https://ombrel.example/vorlo"; }
 

@@ -11,7 +11,7 @@ PluginStrip::PluginStrip (Edge edgeToUse) : edge (edgeToUse) { setOpaque (true);
 
 void PluginStrip::paint (juce::Graphics& g)
 {
-    g.fillAll (findColour (mainBackgroundColourId));
+    g.fillAll (findColour (stripBackgroundColourId));
     const auto line = findColour (separatorColourId);
 
     if (line.isTransparent())

@@ -9,7 +9,9 @@
 /** Each filter type has parameters of its own. The two pairs of knobs stand at the same place and
     the type decides which one is visible; the hidden one keeps following its parameters.
 */
-class FilterComp final : public juce::Component, private juce::Timer, private zembra::Param::Listener
+class FilterComp final : public juce::Component,
+                         private juce::Timer,
+                         private zembra::Param::Listener
 {
 public:
     /** @param iconLookAndFeel  draws the type's icons; outlives this panel */

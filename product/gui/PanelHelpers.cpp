@@ -33,9 +33,9 @@ ControlledKnob* addControlledKnob (VorloProcessor& processor, zembra::PluginEdit
                                    juce::Component& parent, const char* paramId,
                                    const juce::String& tooltip)
 {
-    auto* const knob = addFader<ControlledKnob> (
-        processor, editor, parent, paramId, juce::Slider::RotaryHorizontalVerticalDrag,
-        juce::Slider::TextBoxRight, tooltip);
+    auto* const knob = addFader<ControlledKnob> (processor, editor, parent, paramId,
+                                                 juce::Slider::RotaryHorizontalVerticalDrag,
+                                                 juce::Slider::TextBoxRight, tooltip);
     setColourRecursive (*knob, zembra::knobModColourId, juce::Colour (0xffbd5b06));
     knob->setModDepth (0.5f);
     return knob;

@@ -6,7 +6,9 @@ std::unique_ptr<juce::Button> makePeriodButton (int numerator, int denominator, 
                                                 bool isTriplet, juce::LookAndFeel& lookAndFeel)
 {
     const auto text = juce::String (numerator) + "/" + juce::String (denominator)
-                      + (isDotted ? "d" : isTriplet ? "T" : "");
+                      + (isDotted    ? "d"
+                         : isTriplet ? "T"
+                                     : "");
     auto button = std::make_unique<juce::TextButton> (text);
     button->setClickingTogglesState (true);
     button->setLookAndFeel (&lookAndFeel);

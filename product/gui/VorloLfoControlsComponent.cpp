@@ -37,10 +37,10 @@ void VorloLfoControlsComponent::addRateControls()
     freeRateKnob = addFader (processor, editor, *this, paramId::lfoFreeRate,
                              juce::Slider::RotaryHorizontalVerticalDrag, juce::Slider::TextBoxRight,
                              "Adjust the modulation speed");
-    syncedRateKnob = addFader (
-        processor, editor, *this, paramId::lfoSyncedPeriod,
-        juce::Slider::RotaryHorizontalVerticalDrag, juce::Slider::NoTextBox,
-        "Adjust the modulation speed (drag the knob, or click to open a menu)");
+    syncedRateKnob =
+        addFader (processor, editor, *this, paramId::lfoSyncedPeriod,
+                  juce::Slider::RotaryHorizontalVerticalDrag, juce::Slider::NoTextBox,
+                  "Adjust the modulation speed (drag the knob, or click to open a menu)");
     freeRateKnob->setExplicitFocusOrder (2);
     syncedRateKnob->setExplicitFocusOrder (3);
     syncedRateKnob->addMouseListener (this, true);
@@ -63,7 +63,8 @@ void VorloLfoControlsComponent::addSyncModeTabs()
     syncModeTabs->setExplicitFocusOrder (1);
 
     const juce::StringArray help{
-        juce::translate ("Set the modulation speed to be independent of the host application tempo"),
+        juce::translate (
+            "Set the modulation speed to be independent of the host application tempo"),
         juce::translate ("Synchronize the modulation speed to the host application tempo")
     };
 
@@ -90,7 +91,7 @@ void VorloLfoControlsComponent::addWaveformTabs (juce::LookAndFeel& iconLookAndF
     for (int i = 0; const auto* name : { "Sine", "Square", "Triangle", "Random" })
     {
         auto icon = std::make_unique<zembra::FilledPathButton> (name, vorloArt::makeWaveIcon (i));
-        icon->setInsets (juce::BorderSize<int> (2));
+        icon->setInsets (juce::BorderSize<int> (3));
         icon->setLookAndFeel (&iconLookAndFeel);
         icon->setTitle (name);
         waveformTabs->setButton (i++, std::move (icon));
@@ -141,8 +142,8 @@ void VorloLfoControlsComponent::resized()
     const auto tabWidth = partOf (editor.getWidth(), 0.06f);
     syncModeTabs->setBounds (0, centreY - tabHeight / 2, tabWidth, tabHeight);
 
-    const juce::Rectangle<int> knob (
-        syncModeTabs->getRight() + partOf (editor.getWidth(), 0.015f), 0, height, height);
+    const juce::Rectangle<int> knob (syncModeTabs->getRight() + partOf (editor.getWidth(), 0.015f),
+                                     0, height, height);
     freeRateKnob->setBounds (knob);
     syncedRateKnob->setBounds (knob);
     syncedPeriodList->setBounds (knob.reduced (labelHeight, partOf (labelHeight, 1.2f)));

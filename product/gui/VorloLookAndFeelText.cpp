@@ -1,8 +1,6 @@
-// Buttons, switches, labels and focus of the product's look.
+// Labels, value texts and menu font of the product's look.
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "framework/gui/lookandfeel/ColourIds.h"
 #include "framework/gui/lookandfeel/FittedText.h"
-#include "framework/gui/widgets/Fader.h"
 #include "product/gui/VorloLookAndFeel.h"
 
 namespace
@@ -15,131 +13,36 @@ const juce::Slider* findKnobAround (const juce::Label& label)
     return slider != nullptr && slider->isRotary() ? slider : nullptr;
 }
 
-/** Number above unit: both stay readable in a small ring. */
+/** Number above unit: both stay readable in a small ring. The number stands at the same place
+    with a unit and without one, so that the knobs of a row line up.
+*/
 void drawKnobValue (juce::Graphics& g, const juce::String& text, juce::Rectangle<float> area,
                     const juce::Font& font)
 {
-    const auto number = text.upToLastOccurrenceOf (" ", false, false);
-    const auto unit = text.fromLastOccurrenceOf (" ", false, false);
-
-    if (number.isEmpty() || unit.isEmpty())
-    {
-        zembra::drawTextThatFits (g, text.trim(), area, font, juce::Justification::centred);
-        return;
-    }
+    const auto split = text.lastIndexOfChar (' ');
+    const auto number = split < 0 ? text : text.substring (0, split);
+    const auto unit = split < 0 ? juce::String() : text.substring (split + 1);
 
     const auto unitFont = font.withHeight (0.66f * font.getHeight());
-    const auto lineHeight = 0.5f * (font.getHeight() + unitFont.getHeight());
-    const auto top = area.getCentreY() - 0.5f * lineHeight - 0.46f * font.getHeight();
-    const auto numberArea = area.withTop (top).withHeight (font.getHeight());
+    const auto numberArea = area.withSizeKeepingCentre (area.getWidth(), font.getHeight())
+                                .translated (0.0f, -0.38f * font.getHeight());
+    const auto unitArea = numberArea.translated (0.0f, 0.88f * font.getHeight());
     zembra::drawTextThatFits (g, number, numberArea, font, juce::Justification::centred);
-
-    // Where the unit would be a speck the label beside the knob has to do.
     g.setOpacity (0.65f);
-    zembra::drawTextThatFits (g, unit,
-                              numberArea.translated (0.0f, lineHeight + 0.02f * area.getHeight()),
-                              unitFont, juce::Justification::centred);
+    zembra::drawTextThatFits (g, unit, unitArea, unitFont, juce::Justification::centred);
 }
 
 } // namespace
 
-void VorloLookAndFeel::drawButtonShape (juce::Graphics& g, const juce::Path& shape,
-                                        juce::Colour colour, float height)
-{
-    const auto alpha = 0.4f * colour.getFloatAlpha();
-    const auto brightness = colour.getBrightness();
-    g.setColour (colour);
-    g.fillPath (shape);
-
-    const juce::PathStrokeType line (1.0f);
-    g.setColour (juce::Colours::white.withAlpha (alpha * brightness * brightness));
-    g.strokePath (shape, line,
-                  juce::AffineTransform::translation (0.0f, 1.0f)
-                      .scaled (1.0f, (height - 1.6f) / height));
-    g.setColour (juce::Colours::black.withAlpha (alpha));
-    g.strokePath (shape, line);
-}
-
-void VorloLookAndFeel::drawButtonBackground (juce::Graphics& g, juce::Button& button,
-                                             const juce::Colour& background, bool isMouseOver,
-                                             bool isDown)
-{
-    auto colour = background.withMultipliedAlpha (button.isEnabled() ? 1.0f : 0.5f);
-
-    if (isMouseOver && ! button.getToggleState() && colour.getAlpha() != 0)
-        colour = colour.brighter (isDown ? 0.2f : 0.1f);
-
-    if (colour.getAlpha() != 0)
-        drawButtonShape (g, getButtonShape (button, 4.0f), colour,
-                         static_cast<float> (button.getHeight()));
-}
-
-void VorloLookAndFeel::drawToggleButton (juce::Graphics& g, juce::ToggleButton& button,
-                                         bool isMouseOver, bool isDown)
-{
-    const auto fontHeight =
-        static_cast<float> (juce::roundToInt (0.5f * static_cast<float> (button.getHeight())));
-    const auto& name = button.getName();
-    const auto isMixSwitch = name == "DRY" || name == "WET";
-    drawTickBoxAndText (g, button, fontHeight, (isMixSwitch ? 0.8f : 0.9f) * fontHeight,
-                        isMouseOver, isDown);
-}
-
-void VorloLookAndFeel::drawTickBoxAndText (juce::Graphics& g, juce::ToggleButton& button,
-                                           float fontHeight, float boxSize, bool isMouseOver,
-                                           bool isDown)
-{
-    constexpr float left = 4.0f;
-    drawTickBox (g, button, left, 0.5f * (static_cast<float> (button.getHeight()) - boxSize),
-                 boxSize, boxSize, button.getToggleState(), button.isEnabled(), isMouseOver,
-                 isDown);
-
-    if (button.getButtonText().isEmpty())
-        return;
-
-    auto colour = button.findColour (juce::ToggleButton::textColourId);
-
-    if (button.isEnabled() && isMouseOver)
-        colour = colour.brighter (0.3f);
-
-    const auto x = juce::roundToInt (1.3f * boxSize) + static_cast<int> (left);
-    g.setColour (colour.withMultipliedAlpha (button.isEnabled() ? 1.0f : 0.5f));
-    g.setFont (zembra::getFontThatFits (
-        juce::Font (fontHeight), button.getButtonText(),
-        static_cast<float> (juce::jmax (1, button.getWidth() - x - 2)), fontHeight));
-    g.drawFittedText (button.getButtonText(), x, 0, juce::jmax (0, button.getWidth() - x - 2),
-                      button.getHeight(), juce::Justification::centredLeft, 10);
-}
-
-void VorloLookAndFeel::drawTickBox (juce::Graphics& g, juce::Component& component, float x, float y,
-                                    float w, float h, bool ticked, bool isEnabled, bool isMouseOver,
-                                    bool)
-{
-    const auto find = [&component, isEnabled] (int id)
-    { return component.findColour (id).withMultipliedAlpha (isEnabled ? 1.0f : 0.4f); };
-
-    const auto box = juce::Rectangle<float> (x, y, w, h);
-    const auto lineWidth = 0.0625f * w;
-    const auto outline = find (zembra::toggleBoxColourId);
-    g.setColour (find (zembra::knobCapColourId));
-    g.fillEllipse (box);
-    g.setColour (isEnabled && isMouseOver ? outline.brighter (0.4f) : outline);
-    g.drawEllipse (box.reduced (0.5f * lineWidth), lineWidth);
-
-    const auto* const widget = component.findParentComponentOfClass<zembra::PluginWidget>();
-    const auto isFrozen = widget != nullptr && widget->getParam().isFrozen();
-    const auto onColour = isFrozen ? zembra::frozenColourId : zembra::knobValueColourId;
-    g.setColour (find (ticked ? onColour : zembra::knobTrackOffColourId));
-    g.fillEllipse (box.reduced (0.25f * w));
-}
-
 juce::Font VorloLookAndFeel::getLabelFont (juce::Label& label)
 {
     if (const auto* knob = findKnobAround (label))
-        return juce::Font (
-            0.2f * static_cast<float> (juce::jmin (knob->getWidth(), knob->getHeight())));
+        return juce::Font (0.2f
+                           * static_cast<float> (juce::jmin (knob->getWidth(), knob->getHeight())));
 
-    return juce::Font (juce::jmax (0.1f, 0.62f * static_cast<float> (label.getHeight())));
+    // In a small editor a label needs all of its height.
+    const auto height = static_cast<float> (label.getHeight());
+    return juce::Font (juce::jmax (0.1f, 0.62f * height, juce::jmin (height, 6.0f)));
 }
 
 void VorloLookAndFeel::drawLabel (juce::Graphics& g, juce::Label& label)
@@ -163,21 +66,4 @@ juce::Font VorloLookAndFeel::getPopupMenuFont()
 {
     const auto height = juce::jmax (11.0f, static_cast<float> (getReferenceHeight()) / 30.0f);
     return juce::Font (juce::jlimit (0.1f, 10000.0f, height));
-}
-
-void VorloLookAndFeel::drawKeyboardFocus (juce::Graphics& g, zembra::PluginWidget& widget)
-{
-    const auto* const fader = dynamic_cast<zembra::Fader*> (&widget);
-
-    if (fader == nullptr || ! fader->getSlider().isRotary())
-    {
-        ZembraFlatLookAndFeel::drawKeyboardFocus (g, widget);
-        return;
-    }
-
-    const auto area = widget.getLocalBounds().toFloat();
-    const auto size = juce::jmin (area.getWidth(), area.getHeight());
-    const auto line = juce::jmax (1.0f, 0.012f * size);
-    g.setColour (widget.findColour (zembra::focusColourId));
-    g.drawEllipse (area.withSizeKeepingCentre (size, size).reduced (0.5f * line), line);
 }

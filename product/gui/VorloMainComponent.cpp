@@ -56,8 +56,8 @@ void VorloMainComponent::addKnobs (VorloProcessor& processor, zembra::PluginEdit
 {
     drive.knob =
         addControlledKnob (processor, editor, *this, paramId::drive, "Adjust the drive level");
-    crush.knob = addControlledKnob (processor, editor, *this, paramId::crush,
-                                    "Crush : bit depth reduction");
+    crush.knob =
+        addControlledKnob (processor, editor, *this, paramId::crush, "Crush : bit depth reduction");
     downsamp.knob = addControlledKnob (processor, editor, *this, paramId::downsamp,
                                        "Downsample : sample rate reduction");
 }
@@ -88,10 +88,9 @@ void VorloMainComponent::addMixSwitches (VorloProcessor& processor, zembra::Plug
     add (dry, paramId::bypassDrySignal, "DRY", "Dry signal", "Enable or disable the dry signal");
     add (wet, paramId::bypassWetSignal, "WET", "Wet signal", "Enable or disable the wet signal");
 
-    linkToggle =
-        editor.addWidget (std::make_unique<zembra::Toggle> (processor, paramId::dryWetLink,
-                                                            vorloArt::makeLinkIcon()),
-                          this);
+    linkToggle = editor.addWidget (
+        std::make_unique<zembra::Toggle> (processor, paramId::dryWetLink, vorloArt::makeLinkIcon()),
+        this);
     linkToggle->setShowsValueBubble (false);
     linkToggle->setTooltip (juce::translate ("Link dry and wet gains"));
     linkToggle->getButton().setDescription (juce::translate ("Link dry and wet gains"));
@@ -107,7 +106,7 @@ void VorloMainComponent::setColours()
         setColourRecursive (component, zembra::toggleTextColourId, accent);
     };
 
-    for (auto* component : std::initializer_list<juce::Component*> {
+    for (auto* component : std::initializer_list<juce::Component*>{
              &filterPanel, drive.knob, crush.knob, downsamp.knob, dry.fader, wet.fader, dry.toggle,
              wet.toggle, linkToggle })
         setAccent (*component, driveAccent);
@@ -117,8 +116,8 @@ void VorloMainComponent::setColours()
     setColourRecursive (lfoPanel, juce::TextButton::textColourOnId, modAccent);
     setColourRecursive (lfoPanel, juce::TextButton::textColourOffId, juce::Colour (0xff808080));
 
-    for (auto* component : std::initializer_list<juce::Component*> { &filterPanel, drive.knob,
-                                                                     crush.knob, downsamp.knob })
+    for (auto* component : std::initializer_list<juce::Component*>{ &filterPanel, drive.knob,
+                                                                    crush.knob, downsamp.knob })
         setColourRecursive (*component, zembra::knobModColourId, modAccent);
 
     setColourRecursive (*this, zembra::frozenColourId, juce::Colour (0xff006d91));
@@ -126,9 +125,9 @@ void VorloMainComponent::setColours()
 
 void VorloMainComponent::setFocusOrder()
 {
-    for (int order = 1; auto* component : std::initializer_list<juce::Component*> {
-             drive.knob, crush.knob, downsamp.knob, &filterPanel, dry.toggle, dry.fader, wet.toggle,
-             wet.fader, linkToggle, &lfoPanel, &depthPanel })
+    for (int order = 1; auto* component : std::initializer_list<juce::Component*>{
+                            drive.knob, crush.knob, downsamp.knob, &filterPanel, dry.toggle,
+                            dry.fader, wet.toggle, wet.fader, linkToggle, &lfoPanel, &depthPanel })
         component->setExplicitFocusOrder (order++);
 }
 

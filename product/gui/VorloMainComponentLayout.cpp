@@ -52,8 +52,8 @@ void VorloMainComponent::layOutMix (int row, int knobY)
 
     // Centred in the gap between the faders.
     const auto dryRight = width + dryX;
-    const auto linkX = juce::roundToInt (
-        0.5f * static_cast<float> (wetX - link - dryRight) + static_cast<float> (dryRight));
+    const auto linkX = juce::roundToInt (0.5f * static_cast<float> (wetX - link - dryRight)
+                                         + static_cast<float> (dryRight));
     linkToggle->setBounds (linkX, y + height - partOf (link, 2.8f), link, link);
 }
 
@@ -66,12 +66,12 @@ void VorloMainComponent::layOutModulation (int gap, int row)
 
     // The last depth knob stands exactly below the knob that it acts on.
     depthPanel.setBounds (0, y, partOf (height, 4.55f), height);
-    const auto target = filterPanel.getX() + filterPanel.getHipassResKnob().getBounds().getCentreX();
+    const auto target =
+        filterPanel.getX() + filterPanel.getHipassResKnob().getBounds().getCentreX();
     const auto last = depthPanel.getFilterResDepthKnob().getBounds().getCentreX();
     depthPanel.setTopLeftPosition (target - last, y);
 
     const auto titleHeight = partOf (row, 0.8f);
-    modulationsLabel->setBounds (depthPanel.getX(),
-                                 partOf (getHeight(), 0.58f) - titleHeight / 2,
+    modulationsLabel->setBounds (depthPanel.getX(), partOf (getHeight(), 0.58f) - titleHeight / 2,
                                  partOf (getWidth(), 0.2f), titleHeight);
 }

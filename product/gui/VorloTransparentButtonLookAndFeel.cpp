@@ -7,8 +7,8 @@
 juce::Font VorloTransparentButtonLookAndFeel::getTextButtonFont (juce::TextButton& button,
                                                                  int buttonHeight)
 {
-    const auto isItem =
-        button.findParentComponentOfClass<zembra::ButtonsDropDownList>() != nullptr
-        || button.findParentComponentOfClass<zembra::ButtonsPopupMenu>() != nullptr;
-    return juce::Font (juce::jmax (0.1f, static_cast<float> (buttonHeight) * (isItem ? 0.9f : 0.55f)));
+    const auto isItem = button.findParentComponentOfClass<zembra::ButtonsDropDownList>() != nullptr
+                        || button.findParentComponentOfClass<zembra::ButtonsPopupMenu>() != nullptr;
+    return juce::Font (
+        juce::jmax (0.1f, static_cast<float> (buttonHeight) * (isItem ? 0.9f : 0.55f)));
 }

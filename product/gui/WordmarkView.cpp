@@ -15,8 +15,7 @@ WordmarkView::WordmarkView (vorloArt::Wordmark wordmarkToShow,
 
 void WordmarkView::paint (juce::Graphics& g)
 {
-    const auto fit =
-        placement.getTransformToFit (wordmark.getBounds(), getLocalBounds().toFloat());
+    const auto fit = placement.getTransformToFit (wordmark.frame, getLocalBounds().toFloat());
     g.setColour (findColour (zembra::logoColourId));
     g.fillPath (wordmark.letters, fit);
     g.setColour (findColour (zembra::accentColourId));

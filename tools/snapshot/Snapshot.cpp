@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "tools/snapshot/Snapshot.h"
 
+#include "framework/gui/PluginEditor.h"
+
 Snapshot::Snapshot (SnapshotOptions optionsToUse)
     : options (std::move (optionsToUse)),
       processor (zembra::FolderRoots::inside (home.getFile()))
@@ -35,17 +37,24 @@ juce::String Snapshot::applySettings()
     return {};
 }
 
+juce::String Snapshot::show()
+{
+    if (options.dialog == "midi-learn")
+        dynamic_cast<zembra::PluginEditor&> (*editor).setMidiLearnMode (true);
+    else if (options.dialog.isNotEmpty())
+        return "there is no dialog \"" + options.dialog + "\"; known: midi-learn";
+
+    return {};
+}
+
 juce::String Snapshot::open()
 {
-    if (options.dialog.isNotEmpty())
-        return "there is no dialog \"" + options.dialog + "\"";
-
     if (auto fault = applySettings(); fault.isNotEmpty())
         return fault;
 
     editor.reset (processor.createEditor());
     editor->setSize (options.width, options.height);
-    return {};
+    return show();
 }
 
 juce::Image Snapshot::paint()
@@ -69,7 +78,6 @@ juce::String Snapshot::writePng (const juce::Image& picture, const juce::File& f
             return "can't write " + file.getFullPathName();
     }
 
-    return temporary.overwriteTargetFileWithTemporary()
-               ? juce::String()
-               : "can't write " + file.getFullPathName();
+    return temporary.overwriteTargetFileWithTemporary() ? juce::String()
+                                                        : "can't write " + file.getFullPathName();
 }

@@ -36,6 +36,7 @@ public:
 
 private:
     juce::String applySettings();
+    juce::String show();
 
     const SnapshotOptions options;
     const juce::TemporaryFile home; ///< a folder that nothing is ever written to

@@ -18,8 +18,8 @@ int fail (const juce::String& fault)
 /** Runs the message loop for a while; only once in a process. */
 void runMessageLoop (int milliseconds)
 {
-    juce::Timer::callAfterDelay (
-        milliseconds, [] { juce::MessageManager::getInstance()->stopDispatchLoop(); });
+    juce::Timer::callAfterDelay (milliseconds,
+                                 [] { juce::MessageManager::getInstance()->stopDispatchLoop(); });
     juce::MessageManager::getInstance()->runDispatchLoop();
 }
 

@@ -42,7 +42,7 @@ void PluginDialogs::applyWindowColours()
 {
     for (auto* window : getWindows())
         window->setColour (juce::ResizableWindow::backgroundColourId,
-                           window->findColour (mainBackgroundColourId));
+                           window->findColour (windowBackgroundColourId));
 }
 
 void PluginDialogs::showAboutOrPreferences (int tab)

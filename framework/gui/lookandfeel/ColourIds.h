@@ -13,8 +13,8 @@ enum ColourIds : int
     knobTrackColourId = 0x0c098126,    ///< the ring or groove that the value runs in
     knobTrackOffColourId = 0x0c098127, ///< the disc of a switch that is off
     knobValueColourId = 0x0cdaa210,    ///< the part of the ring up to the value, and the pointer
-    frozenColourId = 0x0cdaa211,       ///< takes the place of the value colour of a frozen parameter
-    knobModColourId = 0x0cdaa212,      ///< the stretch through which modulation pulls the value down
+    frozenColourId = 0x0cdaa211,  ///< takes the place of the value colour of a frozen parameter
+    knobModColourId = 0x0cdaa212, ///< the stretch through which modulation pulls the value down
 
     // Switches and icons.
     toggleTextColourId = 0x01320103, ///< an icon that is on

@@ -18,7 +18,7 @@ inline juce::Font getFontThatFits (const juce::Font& font, const juce::String& t
 }
 
 /** Below this height in pixels letters are specks: the text is left out. */
-inline constexpr float smallestLegibleHeight = 5.0f;
+inline constexpr float smallestLegibleHeight = 4.5f;
 
 /** Draws one line of text in the context's colour, smaller if it has to be. */
 inline void drawTextThatFits (juce::Graphics& g, const juce::String& text,

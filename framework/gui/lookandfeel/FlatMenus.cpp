@@ -29,13 +29,10 @@ void ZembraFlatLookAndFeel::drawPopupMenuBackground (juce::Graphics& g, int widt
     g.drawRect (0, 0, width, height);
 }
 
-void ZembraFlatLookAndFeel::drawPopupMenuItem (juce::Graphics& g, const juce::Rectangle<int>& area,
-                                               bool isSeparator, bool isActive, bool isHighlighted,
-                                               bool isTicked, bool hasSubMenu,
-                                               const juce::String& text,
-                                               const juce::String& shortcutText,
-                                               const juce::Drawable* icon,
-                                               const juce::Colour* textColour)
+void ZembraFlatLookAndFeel::drawPopupMenuItem (
+    juce::Graphics& g, const juce::Rectangle<int>& area, bool isSeparator, bool isActive,
+    bool isHighlighted, bool isTicked, bool hasSubMenu, const juce::String& text,
+    const juce::String& shortcutText, const juce::Drawable* icon, const juce::Colour* textColour)
 {
     auto row = area.toFloat().reduced (1.0f, 0.0f);
 
@@ -66,18 +63,18 @@ void ZembraFlatLookAndFeel::drawPopupMenuItem (juce::Graphics& g, const juce::Re
                               | juce::RectanglePlacement::onlyReduceInSize,
                           isActive ? 1.0f : 0.35f);
     else if (isTicked)
-        g.fillEllipse (markArea.withSizeKeepingCentre (0.3f * row.getHeight(),
-                                                       0.3f * row.getHeight()));
+        g.fillEllipse (
+            markArea.withSizeKeepingCentre (0.3f * row.getHeight(), 0.3f * row.getHeight()));
 
     if (hasSubMenu)
-        g.fillPath (makeTriangle (row.removeFromRight (row.getHeight())
-                                      .withSizeKeepingCentre (0.4f * row.getHeight(),
-                                                              0.4f * row.getHeight()),
-                                  juce::MathConstants<float>::halfPi));
+        g.fillPath (makeTriangle (
+            row.removeFromRight (row.getHeight())
+                .withSizeKeepingCentre (0.4f * row.getHeight(), 0.4f * row.getHeight()),
+            juce::MathConstants<float>::halfPi));
 
     row.removeFromRight (0.4f * row.getHeight());
-    const auto font = getFontThatFits (getPopupMenuFont(), {}, row.getWidth(),
-                                       row.getHeight() / 1.15f);
+    const auto font =
+        getFontThatFits (getPopupMenuFont(), {}, row.getWidth(), row.getHeight() / 1.15f);
 
     if (shortcutText.isNotEmpty())
         drawTextThatFits (g, shortcutText, row, font.withHeight (0.8f * font.getHeight()),
@@ -92,9 +89,9 @@ void ZembraFlatLookAndFeel::drawPopupMenuUpDownArrow (juce::Graphics& g, int wid
     const auto area = juce::Rectangle<int> (width, height).toFloat();
     g.fillAll (findColour (juce::PopupMenu::backgroundColourId));
     g.setColour (findColour (juce::PopupMenu::textColourId));
-    g.fillPath (makeTriangle (area.withSizeKeepingCentre (0.4f * area.getHeight(),
-                                                          0.4f * area.getHeight()),
-                              isScrollUpArrow ? 0.0f : juce::MathConstants<float>::pi));
+    g.fillPath (
+        makeTriangle (area.withSizeKeepingCentre (0.4f * area.getHeight(), 0.4f * area.getHeight()),
+                      isScrollUpArrow ? 0.0f : juce::MathConstants<float>::pi));
 }
 
 } // namespace zembra

@@ -32,8 +32,8 @@ int ZembraFlatLookAndFeel::getSliderThumbRadius (juce::Slider& slider)
     return juce::jlimit (3, 8, across / 3);
 }
 
-void ZembraFlatLookAndFeel::drawLinearSlider (juce::Graphics& g, int x, int y, int width, int height,
-                                              float sliderPos, float, float,
+void ZembraFlatLookAndFeel::drawLinearSlider (juce::Graphics& g, int x, int y, int width,
+                                              int height, float sliderPos, float, float,
                                               juce::Slider::SliderStyle, juce::Slider& slider)
 {
     const auto area = juce::Rectangle<int> (x, y, width, height).toFloat();

@@ -86,7 +86,8 @@ void ZembraFlatLookAndFeel::drawDocumentWindowTitleBar (juce::DocumentWindow& wi
 
     const auto alpha = window.isActiveWindow() ? 1.0f : 0.6f;
     const auto area = juce::Rectangle<int> (titleX, 0, titleWidth, height).toFloat();
-    g.setColour (window.findColour (juce::DocumentWindow::textColourId).withMultipliedAlpha (alpha));
+    g.setColour (
+        window.findColour (juce::DocumentWindow::textColourId).withMultipliedAlpha (alpha));
     drawTextThatFits (g, window.getName(), area.reduced (4.0f, 0.0f),
                       juce::Font (0.65f * static_cast<float> (height)),
                       juce::Justification::centred);
@@ -159,14 +160,14 @@ void ZembraFlatLookAndFeel::drawTableHeaderColumn (juce::Graphics& g,
 
     auto area = juce::Rectangle<int> (width, height).toFloat().reduced (5.0f, 0.0f);
     g.setColour (header.findColour (juce::TableHeaderComponent::textColourId));
-    constexpr int sorted = juce::TableHeaderComponent::sortedForwards
-                           | juce::TableHeaderComponent::sortedBackwards;
+    constexpr int sorted =
+        juce::TableHeaderComponent::sortedForwards | juce::TableHeaderComponent::sortedBackwards;
 
     if ((columnFlags & sorted) != 0)
     {
-        const auto box = area.removeFromRight (0.7f * area.getHeight())
-                             .withSizeKeepingCentre (0.35f * area.getHeight(),
-                                                     0.25f * area.getHeight());
+        const auto box =
+            area.removeFromRight (0.7f * area.getHeight())
+                .withSizeKeepingCentre (0.35f * area.getHeight(), 0.25f * area.getHeight());
         const auto isForwards = (columnFlags & juce::TableHeaderComponent::sortedForwards) != 0;
         const auto base = isForwards ? box.getBottom() : box.getY();
         const auto tip = isForwards ? box.getY() : box.getBottom();

@@ -157,19 +157,19 @@ void applyFlatPalette (juce::LookAndFeel& lookAndFeel)
     const juce::Colour paleBlue{ 0xffb2d7ff };
     const juce::Colour vividBlue{ 0xff3c8cfa };
 
-    applyColours (lookAndFeel,
-                  {
-                      { knobModColourId, ochre },
-                      { focusColourId, paleBlue.withAlpha (0.75f) },
-                      { juce::HyperlinkButton::textColourId, paleBlue },
-                      { juce::TextEditor::highlightColourId, vividBlue.withAlpha (0.45f) },
-                      { juce::TextEditor::focusedOutlineColourId, vividBlue.withAlpha (0.7f) },
-                      { juce::ComboBox::focusedOutlineColourId, vividBlue.withAlpha (0.7f) },
-                      { juce::TreeView::selectedItemBackgroundColourId,
-                        vividBlue.withAlpha (0.25f) },
-                      { juce::DirectoryContentsDisplayComponent::highlightColourId,
-                        vividBlue.withAlpha (0.25f) },
-                  });
+    applyColours (
+        lookAndFeel,
+        {
+            { knobModColourId, ochre },
+            { focusColourId, paleBlue.withAlpha (0.75f) },
+            { juce::HyperlinkButton::textColourId, paleBlue },
+            { juce::TextEditor::highlightColourId, vividBlue.withAlpha (0.45f) },
+            { juce::TextEditor::focusedOutlineColourId, vividBlue.withAlpha (0.7f) },
+            { juce::ComboBox::focusedOutlineColourId, vividBlue.withAlpha (0.7f) },
+            { juce::TreeView::selectedItemBackgroundColourId, vividBlue.withAlpha (0.25f) },
+            { juce::DirectoryContentsDisplayComponent::highlightColourId,
+              vividBlue.withAlpha (0.25f) },
+        });
 }
 
 } // namespace zembra

@@ -15,11 +15,11 @@ PluginHeaderLookAndFeel::PluginHeaderLookAndFeel()
 
 void PluginHeaderLookAndFeel::setAccentColour (juce::Colour colour)
 {
-    for (const int id : { static_cast<int> (juce::PopupMenu::highlightedTextColourId),
-                          static_cast<int> (knobValueColourId),
-                          static_cast<int> (juce::TextButton::textColourOnId),
-                          static_cast<int> (accentColourId),
-                          static_cast<int> (freezerMarkColourId) })
+    for (const int id :
+         { static_cast<int> (juce::PopupMenu::highlightedTextColourId),
+           static_cast<int> (knobValueColourId),
+           static_cast<int> (juce::TextButton::textColourOnId), static_cast<int> (accentColourId),
+           static_cast<int> (freezerMarkColourId) })
         setColour (id, colour);
 }
 

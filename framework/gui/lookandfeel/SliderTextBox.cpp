@@ -10,6 +10,8 @@ SliderTextBox::SliderTextBox (juce::Slider& sliderToUse) : slider (sliderToUse)
     setJustificationType (juce::Justification::centred);
     setKeyboardType (juce::TextInputTarget::decimalKeyboard);
     setBorderSize (juce::BorderSize<int> (0));
+    setEditable (true);
+    setWantsKeyboardFocus (false);
 
     const auto textColour = slider.findColour (juce::Slider::textBoxTextColourId);
     setColour (textColourId, textColour);
@@ -22,7 +24,7 @@ SliderTextBox::SliderTextBox (juce::Slider& sliderToUse) : slider (sliderToUse)
 
 void SliderTextBox::mouseDrag (const juce::MouseEvent& e)
 {
-    if (! e.mouseWasDraggedSinceMouseDown())
+    if (e.eventComponent != this || ! e.mouseWasDraggedSinceMouseDown())
         return;
 
     const auto event = e.getEventRelativeTo (&slider);
@@ -39,6 +41,9 @@ void SliderTextBox::mouseDrag (const juce::MouseEvent& e)
 
 void SliderTextBox::mouseUp (const juce::MouseEvent& e)
 {
+    if (e.eventComponent != this)
+        return;
+
     if (isDraggingSlider)
         slider.mouseUp (e.getEventRelativeTo (&slider));
     else
@@ -55,8 +60,29 @@ void SliderTextBox::mouseDoubleClick (const juce::MouseEvent& e)
     if (isBeingEdited() && age > static_cast<juce::uint32> (2 * e.getDoubleClickTimeout()))
         return;
 
-    hideEditor (true);
-    slider.mouseDoubleClick (e.getEventRelativeTo (&slider));
+    // Later, since it takes away the editor that this event came to.
+    juce::MessageManager::callAsync (
+        [box = juce::Component::SafePointer<SliderTextBox> (this)]
+        {
+            if (box == nullptr)
+                return;
+
+            box->hideEditor (true);
+            auto& owner = box->slider;
+
+            if (owner.isEnabled() && owner.isDoubleClickReturnEnabled())
+            {
+                const juce::Slider::ScopedDragNotification gesture (owner);
+                owner.setValue (owner.getDoubleClickReturnValue(), juce::sendNotificationSync);
+            }
+        });
+}
+
+void SliderTextBox::enablementChanged()
+{
+    // Becoming editable has made it a stop of the tab key, which only the slider should be.
+    Label::enablementChanged();
+    setWantsKeyboardFocus (false);
 }
 
 juce::TextEditor* SliderTextBox::createEditorComponent()
@@ -69,6 +95,28 @@ juce::TextEditor* SliderTextBox::createEditorComponent()
     textEditor->addMouseListener (this, false);
     editorShownAt = juce::Time::getMillisecondCounter();
     return textEditor;
+}
+
+void SliderTextBox::editorShown (juce::TextEditor* textEditor)
+{
+    // The number alone: its unit stays, and the box may be small.
+    textEditor->setText (getText().upToFirstOccurrenceOf (" ", false, false), false);
+    textEditor->selectAll();
+    Label::editorShown (textEditor);
+}
+
+void SliderTextBox::editorAboutToBeHidden (juce::TextEditor* textEditor)
+{
+    Label::editorAboutToBeHidden (textEditor);
+
+    // The keyboard goes on with the slider, so that tab leads to its neighbour.
+    if (textEditor->hasKeyboardFocus (true))
+        juce::MessageManager::callAsync (
+            [box = juce::Component::SafePointer<SliderTextBox> (this)]
+            {
+                if (box != nullptr && ! box->isBeingEdited())
+                    box->slider.grabKeyboardFocus();
+            });
 }
 
 std::unique_ptr<juce::AccessibilityHandler> SliderTextBox::createAccessibilityHandler()

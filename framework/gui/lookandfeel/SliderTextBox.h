@@ -22,8 +22,13 @@ public:
     void mouseDrag (const juce::MouseEvent&) override;
     void mouseUp (const juce::MouseEvent&) override;
     void mouseDoubleClick (const juce::MouseEvent&) override;
+    void enablementChanged() override;
     juce::TextEditor* createEditorComponent() override;
     std::unique_ptr<juce::AccessibilityHandler> createAccessibilityHandler() override;
+
+protected:
+    void editorShown (juce::TextEditor*) override;
+    void editorAboutToBeHidden (juce::TextEditor*) override;
 
 private:
     juce::Slider& slider;

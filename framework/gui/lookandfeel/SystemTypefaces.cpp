@@ -43,8 +43,7 @@ juce::Typeface::Ptr getSystemTypeface (TypefaceStyle style)
 
         for (const auto& name : getStyleNames (style))
             if (available.contains (name))
-                return juce::Typeface::createSystemTypefaceFor (
-                    juce::Font (family, name, 14.0f));
+                return juce::Typeface::createSystemTypefaceFor (juce::Font (family, name, 14.0f));
     }
 
     const auto flags = style == TypefaceStyle::bold     ? juce::Font::bold

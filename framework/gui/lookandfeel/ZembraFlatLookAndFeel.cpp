@@ -51,22 +51,21 @@ juce::Font ZembraFlatLookAndFeel::getTextButtonFont (juce::TextButton& button, i
 void ZembraFlatLookAndFeel::drawButtonText (juce::Graphics& g, juce::TextButton& button,
                                             bool isMouseOver, bool isDown)
 {
-    auto colour = getStateColour (button, button.getToggleState()
-                                              ? juce::TextButton::textColourOnId
-                                              : juce::TextButton::textColourOffId);
+    auto colour =
+        getStateColour (button, button.getToggleState() ? juce::TextButton::textColourOnId
+                                                        : juce::TextButton::textColourOffId);
 
     if (button.isEnabled() && (isMouseOver || isDown))
         colour = colour.brighter (isDown ? 0.7f : 0.4f);
 
     g.setColour (colour);
     drawTextThatFits (g, button.getButtonText(), button.getLocalBounds().toFloat(),
-                      getTextButtonFont (button, button.getHeight()),
-                      juce::Justification::centred);
+                      getTextButtonFont (button, button.getHeight()), juce::Justification::centred);
 }
 
 void ZembraFlatLookAndFeel::drawTickBox (juce::Graphics& g, juce::Component& component, float x,
-                                         float y, float w, float h, bool ticked, bool, bool isMouseOver,
-                                         bool)
+                                         float y, float w, float h, bool ticked, bool,
+                                         bool isMouseOver, bool)
 {
     const auto box = juce::Rectangle<float> (x, y, w, h).reduced (0.08f * w);
     const auto outline = getStateColour (component, toggleBoxColourId);

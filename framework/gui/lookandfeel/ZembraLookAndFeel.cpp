@@ -41,6 +41,26 @@ juce::Colour ZembraLookAndFeel::getStateColour (const juce::Component& component
     return component.findColour (colourId).withMultipliedAlpha (alpha);
 }
 
+int ZembraLookAndFeel::getButtonsListBoxRowHeight (ButtonsListBox&, int listHeight)
+{
+    return juce::roundToInt (0.09f * static_cast<float> (listHeight));
+}
+
+void ZembraLookAndFeel::layoutConfirmDialog (ConfirmDialogComponent& dialog, juce::Label& question,
+                                             juce::Button& button1, juce::Button& button2)
+{
+    auto area = dialog.getLocalBounds().reduced (10);
+    auto row = area.removeFromBottom (juce::jlimit (20, 28, area.getHeight() / 3));
+    question.setBounds (area);
+
+    // Side by side, as wide as their texts may become in another language.
+    constexpr int gap = 10;
+    const auto width = juce::jmin (110, (row.getWidth() - gap) / 2);
+    row = row.withSizeKeepingCentre (2 * width + gap, row.getHeight());
+    button1.setBounds (row.removeFromLeft (width));
+    button2.setBounds (row.removeFromRight (width));
+}
+
 void ZembraLookAndFeel::drawMidiLearnOverlay (juce::Graphics& g, PluginWidget& widget,
                                               bool isMouseOver, bool panelOpen)
 {

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "framework/gui/dialogs/ButtonsListBox.h"
+#include "framework/gui/dialogs/ConfirmDialogComponent.h"
 #include "framework/gui/widgets/FilledPathButton.h"
 #include "framework/gui/widgets/PluginWidget.h"
 #include "framework/gui/widgets/PopupBubbleComponent.h"
@@ -15,7 +17,9 @@ namespace zembra
     There is no global scale: fonts follow the reference height, which is the editor's height.
 */
 class ZembraLookAndFeel : public juce::LookAndFeel_V3,
+                          public ButtonsListBox::ZembraLookAndFeelMethods,
                           public PluginWidget::ZembraLookAndFeelMethods,
+                          public ConfirmDialogComponent::ZembraLookAndFeelMethods,
                           public FilledPathButton::ZembraLookAndFeelMethods,
                           public PopupBubbleComponent::ZembraLookAndFeelMethods
 {
@@ -39,11 +43,16 @@ public:
 
     juce::Typeface::Ptr getTypefaceForFont (const juce::Font& font) override;
 
+    int getButtonsListBoxRowHeight (ButtonsListBox&, int listHeight) override;
+
     void drawMidiLearnOverlay (juce::Graphics&, PluginWidget&, bool isMouseOver,
                                bool panelOpen) override;
     int getMidiLearnPanelWidth (PluginWidget&) override;
     int getMidiLearnPanelHeight (PluginWidget&) override;
     void drawKeyboardFocus (juce::Graphics&, PluginWidget&) override;
+
+    void layoutConfirmDialog (ConfirmDialogComponent&, juce::Label& question, juce::Button& button1,
+                              juce::Button& button2) override;
 
     void drawFilledPathButton (juce::Graphics&, FilledPathButton&, juce::Rectangle<float> area,
                                bool isMouseOver, bool isDown) override;

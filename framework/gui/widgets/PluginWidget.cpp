@@ -128,6 +128,14 @@ void PluginWidget::endGesture (Param& param)
         hostParam->endChangeGesture();
 }
 
+void PluginWidget::editInOneStep (Param& param, double newValue)
+{
+    getUndoManager().beginNewTransaction();
+    beginGesture (param);
+    param.setValue (newValue, sourceEditor, &getUndoManager());
+    endGesture (param);
+}
+
 void PluginWidget::setMidiLearnMode (bool shouldBeOn)
 {
     midiLearnMode = shouldBeOn;

@@ -104,6 +104,9 @@ protected:
     void beginGesture (Param&);
     void endGesture (Param&);
 
+    /** Sets a parameter as one undo step and one host gesture. */
+    void editInOneStep (Param&, double newValue);
+
     juce::UndoManager& getUndoManager() const { return processor.getUndoManager(); }
 
     PluginProcessor& processor;

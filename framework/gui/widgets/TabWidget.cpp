@@ -76,14 +76,8 @@ void TabWidget::buttonClicked (juce::Button* button)
 {
     const auto index = buttons.indexOf (button);
 
-    if (! button->getToggleState() || index < 0)
-        return;
-
-    auto& param = getParam();
-    getUndoManager().beginNewTransaction();
-    beginGesture (param);
-    param.setValue (index, sourceEditor, &getUndoManager());
-    endGesture (param);
+    if (button->getToggleState() && index >= 0)
+        editInOneStep (getParam(), index);
 }
 
 void TabWidget::updateFromParam()

@@ -32,8 +32,8 @@ juce::Path drawLetters (const char* svgPath, float penWidth)
 juce::Path mirror (juce::Path path)
 {
     const auto bounds = path.getBounds();
-    path.applyTransform (
-        juce::AffineTransform::scale (-1.0f, 1.0f).translated (bounds.getX() + bounds.getRight(), 0.0f));
+    path.applyTransform (juce::AffineTransform::scale (-1.0f, 1.0f)
+                             .translated (bounds.getX() + bounds.getRight(), 0.0f));
     return path;
 }
 
@@ -50,7 +50,7 @@ juce::Path makeLinkIcon()
 
 juce::Path makeLowPassIcon()
 {
-    return drawStroke ("M4 21 H40 C54 21 56 8 65 8 C77 8 78 40 92 52", iconPen);
+    return drawStroke ("M4.5 14 H52 C63 14 64 5 71.5 5 C82 5 82 26 91 46", iconPen);
 }
 
 juce::Path makeHighPassIcon() { return mirror (makeLowPassIcon()); }
@@ -80,37 +80,41 @@ Wordmark makeMakerWordmark()
     mark.accent.addPath (drawStroke ("M50 50 V88 A9 9 0 0 1 32 88", 7.0f));
 
     mark.letters = drawLetters (
-        "M167 50 m-35 0 a35 35 0 1 0 70 0 a35 35 0 1 0 -70 0 "                       // O
-        "M231 89.5 V15 L264 62 L297 15 V89.5 "                                       // M
+        "M167 50 m-35 0 a35 35 0 1 0 70 0 a35 35 0 1 0 -70 0 " // O
+        "M231 89.5 V15 L264 62 L297 15 V89.5 "                 // M
         "M331 15 V85 H360 A17.5 17.5 0 0 0 360 48 H331 M331 48 H356 A16.5 16.5 0 0 0 356 15 "
-        "H326.5 "                                                                    // B
-        "M410 89.5 V15 H438 A19 19 0 0 1 438 53 H410 M436 53 L458 89.5 "             // R
-        "M534 15 H490 V85 H534 M490 49 H528 "                                        // E
-        "M564 10.5 V85 H606",                                                        // L
+        "H326.5 "                                                        // B
+        "M410 89.5 V15 H438 A19 19 0 0 1 438 53 H410 M436 53 L458 89.5 " // R
+        "M534 15 H490 V85 H534 M490 49 H528 "                            // E
+        "M564 10.5 V85 H606",                                            // L
         pen);
+    mark.frame = mark.letters.getBounds().getUnion (mark.accent.getBounds());
     return mark;
 }
 
 Wordmark makeProductWordmark()
 {
-    constexpr float pen = 13.0f;
+    constexpr float pen = 11.0f;
     Wordmark mark;
-    mark.letters = drawLetters ("M6 0 L47 88 L88 0 "                                     // V
-                                "M158 50 m-43.5 0 a43.5 43.5 0 1 0 87 0 a43.5 43.5 0 1 0 -87 0 " // O
-                                "M243 100 V6.5 H284 A23 23 0 0 1 284 55.5 H243 M281 55 L310 100 " // R
-                                "M344 0 V93.5 H396",                                      // L
-                                pen);
+    mark.letters =
+        drawLetters ("M5 0 L45 89 L85 0 "                                              // V
+                     "M171 50 m-45 0 a45 45 0 1 0 90 0 a45 45 0 1 0 -90 0 "            // O
+                     "M262 100 V5 H298 A25.5 25.5 0 0 1 298 56 H262 M296 56 L324 100 " // R
+                     "M366 0 V95 H416",                                                // L
+                     pen);
 
     // The last letter: a knob's ring, open below, with its pointer turned up.
+    constexpr float radius = 45.0f;
+    const juce::Point<float> centre{ 500.0f, 50.0f };
     juce::Path ring;
-    ring.addCentredArc (457.0f, 50.0f, 43.5f, 43.5f, 0.0f, 3.9444442f, 8.621926f, true);
+    ring.addCentredArc (centre.x, centre.y, radius, radius, 0.0f, 3.9444442f, 8.621926f, true);
     juce::PathStrokeType (pen, juce::PathStrokeType::curved, juce::PathStrokeType::butt)
         .createStrokedPath (ring, ring, {}, 8.0f);
     mark.letters.addPath (ring);
     constexpr float pointerAngle = 7.1f;
-    const auto pointer = juce::Point<float> (457.0f, 50.0f)
-                             .getPointOnCircumference (43.5f, pointerAngle);
-    mark.accent.addEllipse (juce::Rectangle<float> (30.0f, 30.0f).withCentre (pointer));
+    const auto pointer = centre.getPointOnCircumference (radius, pointerAngle);
+    mark.accent.addEllipse (juce::Rectangle<float> (27.0f, 27.0f).withCentre (pointer));
+    mark.frame = juce::Rectangle<float> (0.0f, 0.0f, 550.0f, 100.0f).expanded (0.0f, 20.0f);
     return mark;
 }
 

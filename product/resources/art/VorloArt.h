@@ -20,16 +20,12 @@ juce::Path makeHighPassIcon();
 /** One period of the waveform that a value of `lfoWaveform` stands for, 0 to 3. */
 juce::Path makeWaveIcon (int waveform);
 
-/** A name in two tones. Both paths share one coordinate system. */
+/** A name in two tones. All share one coordinate system. */
 struct Wordmark
 {
     juce::Path letters;
     juce::Path accent;
-
-    juce::Rectangle<float> getBounds() const
-    {
-        return letters.getBounds().getUnion (accent.getBounds());
-    }
+    juce::Rectangle<float> frame; ///< what is fitted into an area: the name and the air around it
 };
 
 /** The maker's name, behind its parasol. */
