@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "product/VorloProcessor.h"
 
+#include "product/VorloEditor.h"
+
 namespace
 {
 
@@ -126,7 +128,12 @@ bool VorloProcessor::isBusesLayoutSupported (const BusesLayout& layouts) const
 
 juce::AudioProcessorEditor* VorloProcessor::createProductEditor()
 {
-    return new juce::GenericAudioProcessorEditor (*this);
+    return new VorloEditor (*this);
+}
+
+void VorloProcessor::initialiseEditor (juce::AudioProcessorEditor& editor)
+{
+    static_cast<VorloEditor&> (editor).initialise();
 }
 
 void VorloProcessor::prepareToPlay (double newSampleRate, int maximumBlockSize)

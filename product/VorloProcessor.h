@@ -31,6 +31,7 @@ public:
     bool isBusesLayoutSupported (const BusesLayout& layouts) const override;
     int getAboutYear() const override { return 2016; }
     juce::AudioProcessorEditor* createProductEditor() override;
+    void initialiseEditor (juce::AudioProcessorEditor& editor) override;
 
     /** The samples that the work buffers hold. [audio thread] */
     int getBlockCapacity() const noexcept { return blockCapacity; }

@@ -85,7 +85,15 @@ void PluginProcessor::processBlock (juce::AudioBuffer<float>& buffer, juce::Midi
     processAudio (buffer, midi);
 }
 
-juce::AudioProcessorEditor* PluginProcessor::createEditor() { return createProductEditor(); }
+juce::AudioProcessorEditor* PluginProcessor::createEditor()
+{
+    auto* const editor = createProductEditor();
+
+    if (editor != nullptr)
+        initialiseEditor (*editor);
+
+    return editor;
+}
 
 juce::String PluginProcessor::getAboutText() const
 {

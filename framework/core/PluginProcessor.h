@@ -69,6 +69,9 @@ public:
     /** Makes the product's editor. [message thread] */
     virtual juce::AudioProcessorEditor* createProductEditor() = 0;
 
+    /** Common set-up of a new editor, which needs the editor's finished object. [message thread] */
+    virtual void initialiseEditor (juce::AudioProcessorEditor&) {}
+
     /** An empty preset: the root of a preset file. */
     virtual std::unique_ptr<juce::XmlElement> createPresetRoot() const;
 
@@ -140,8 +143,12 @@ public:
     /** The editor's size in pixels, -1 until an editor or a project has set it. [any thread] */
     int getPluginEditorWidth() const noexcept { return pluginEditorWidth; }
     int getPluginEditorHeight() const noexcept { return pluginEditorHeight; }
-    void setPluginEditorWidth (int width) noexcept { pluginEditorWidth = width; }
-    void setPluginEditorHeight (int height) noexcept { pluginEditorHeight = height; }
+    void setPluginEditorSize (int width, int height) noexcept
+    {
+        pluginEditorWidth = width;
+        pluginEditorHeight = height;
+    }
+
     const ProductInfo& getProductInfo() const noexcept { return info; }
     const FolderRoots& getFolderRoots() const noexcept { return folderRoots; }
     const juce::String& getCompanyName() const noexcept { return info.companyName; }

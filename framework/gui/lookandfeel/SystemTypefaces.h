@@ -1,0 +1,23 @@
+// The system's typefaces that the editor's texts are set in.
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <juce_graphics/juce_graphics.h>
+
+namespace zembra
+{
+
+enum class TypefaceStyle
+{
+    regular,
+    bold,
+    italic
+};
+
+/** Verdana in a style; where it is missing DejaVu Sans, which has its proportions, and where that is
+    missing too, whatever the system takes for its default sans-serif. Never null where the system
+    has a font at all.
+*/
+juce::Typeface::Ptr getSystemTypeface (TypefaceStyle style);
+
+} // namespace zembra
