@@ -3,6 +3,7 @@ find_package(JUCE 7.0.5 CONFIG REQUIRED)
 find_package(PNG REQUIRED)
 find_package(JPEG REQUIRED)
 find_package(ZLIB REQUIRED)
+find_package(EXPAT REQUIRED)
 find_package(PkgConfig REQUIRED)
 pkg_check_modules(FLAC REQUIRED IMPORTED_TARGET flac)
 pkg_check_modules(VORBIS REQUIRED IMPORTED_TARGET vorbis vorbisenc vorbisfile ogg)
@@ -36,4 +37,11 @@ function(vorlo_make_vst2_host_headers destination)
     file(WRITE "${destination}/pluginterfaces/fst/fst.h.new" "${patched}")
     file(COPY_FILE "${destination}/pluginterfaces/fst/fst.h.new"
         "${destination}/pluginterfaces/fst/fst.h" ONLY_IF_DIFFERENT)
+
+    # They read the fst.h that lies beside them, so they must lie beside the copy.
+    get_filename_component(folder "${FST_HEADER}" DIRECTORY)
+    foreach(header aeffect.h aeffectx.h)
+        file(COPY_FILE "${folder}/${header}" "${destination}/pluginterfaces/fst/${header}"
+            ONLY_IF_DIFFERENT)
+    endforeach()
 endfunction()

@@ -43,24 +43,14 @@ VorloProcessor::VorloProcessor (const zembra::FolderRoots& roots)
     crushDepth.param = &params.crushModDepth;
     downsamp.param = &params.downsamp;
     downsampDepth.param = &params.downsampModDepth;
-    lowPassControls.freq.param = &params.lowpassFreq;
-    lowPassControls.res.param = &params.lowpassRes;
-    hiPassControls.freq.param = &params.hipassFreq;
-    hiPassControls.res.param = &params.hipassRes;
+    filterFreqs[FilterStage::lowPass].param = &params.lowpassFreq;
+    filterRes[FilterStage::lowPass].param = &params.lowpassRes;
+    filterFreqs[FilterStage::hiPass].param = &params.hipassFreq;
+    filterRes[FilterStage::hiPass].param = &params.hipassRes;
     filterFreqDepth.param = &params.filterFreqModDepth;
     filterResDepth.param = &params.filterResModDepth;
 
-    for (size_t channel = 0; channel < filters.size(); ++channel)
-    {
-        auto low = std::make_unique<VorloLowPassFilter>();
-        auto high = std::make_unique<VorloHiPassFilter>();
-        lowPass[channel] = low.get();
-        hiPass[channel] = high.get();
-        filters[channel].add (std::move (low));
-        filters[channel].add (std::move (high));
-    }
-
-    for (auto* buffer : { &dryBuffer, &modBuffer, &workBuffer })
+    for (auto* buffer : { &dryBuffer, &modBuffer })
         buffer->clear();
 
     listenToParams();
@@ -81,10 +71,8 @@ void VorloProcessor::listenToParams()
 
 std::array<VorloProcessor::CachedParam*, 10> VorloProcessor::getNormalisedCaches()
 {
-    return {
-        &drive,         &driveDepth,      &crush,          &crushDepth,          &downsamp,
-        &downsampDepth, &filterFreqDepth, &filterResDepth, &lowPassControls.res, &hiPassControls.res
-    };
+    return { &drive,         &driveDepth,      &crush,          &crushDepth,   &downsamp,
+             &downsampDepth, &filterFreqDepth, &filterResDepth, &filterRes[0], &filterRes[1] };
 }
 
 void VorloProcessor::paramChanged (zembra::Param* param, double plain, double normalised,
@@ -96,9 +84,9 @@ void VorloProcessor::paramChanged (zembra::Param* param, double plain, double no
         if (param == cache->param)
             cache->value = static_cast<float> (normalised);
 
-    for (auto* controls : { &lowPassControls, &hiPassControls })
-        if (param == controls->freq.param)
-            controls->freq.value = static_cast<float> (plain);
+    for (auto& cache : filterFreqs)
+        if (param == cache.param)
+            cache.value = static_cast<float> (plain);
 
     if (param == &params.filterType)
         filterType = static_cast<int> (plain);
@@ -158,10 +146,8 @@ void VorloProcessor::prepareToPlay (double newSampleRate, int maximumBlockSize)
     {
         blockCapacity = juce::nextPowerOfTwo (2 * maximumBlockSize);
 
-        for (auto* buffer : { &dryBuffer, &modBuffer, &workBuffer })
+        for (auto* buffer : { &dryBuffer, &modBuffer })
             buffer->setSize (2, blockCapacity, false, true);
-
-        driveStage.ensureCapacity (2, maximumBlockSize);
     }
 
     if (rate != sampleRate)
@@ -175,8 +161,7 @@ void VorloProcessor::prepareToPlay (double newSampleRate, int maximumBlockSize)
         for (auto& smoother : channelSmoothers)
             smoother.setCoefficients (slowCoefficients);
 
-        for (auto& filter : filters)
-            filter.prepare (rate, maximumBlockSize);
+        filterStage.prepare (rate, maximumBlockSize);
     }
 
     lfo.prepare (rate);
@@ -193,8 +178,7 @@ void VorloProcessor::resetChain()
     for (auto& smoother : channelSmoothers)
         smoother.reset();
 
-    for (auto& filter : filters)
-        filter.reset();
+    filterStage.reset();
 
     downsampler.restart();
 }

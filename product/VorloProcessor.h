@@ -5,15 +5,12 @@
 #include "framework/core/PluginProcessor.h"
 #include "framework/core/Relaxed.h"
 #include "framework/dsp/DryWetProcessor.h"
-#include "framework/dsp/LinearSmoother.h"
-#include "framework/dsp/SwitchableFilter.h"
 #include "product/VorloParameters.h"
 #include "product/dsp/CrushStage.h"
 #include "product/dsp/DriveStage.h"
+#include "product/dsp/FilterStage.h"
 #include "product/dsp/LfoSyncClock.h"
 #include "product/dsp/SampleHoldStage.h"
-#include "product/dsp/VorloHiPassFilter.h"
-#include "product/dsp/VorloLowPassFilter.h"
 #include "product/dsp/ZembraLfo.h"
 
 #include <array>
@@ -53,11 +50,21 @@ private:
         zembra::Relaxed<float> value;
     };
 
-    /** Cutoff and resonance of one filter type, and their glides. */
-    struct FilterControls
+    /** A knob that the LFO can pull, as read at the start of a block. */
+    struct Amount
     {
-        CachedParam freq, res;
-        zembra::LinearSmoother freqSmoother{ 1.0f }, resSmoother{ 0.01f };
+        float value, depth;
+    };
+
+    /** What a block is processed with: parameters may change meanwhile. */
+    struct Settings
+    {
+        Amount drive, crush, downsamp;
+        FilterStage::Settings filter;
+        int numFiltered; ///< channels that the filter runs on
+        bool isFused;    ///< true if one loop can run all stages
+
+        bool isModulated() const noexcept;
     };
 
     static BusesProperties makeStereoBuses();
@@ -71,20 +78,19 @@ private:
     // The steps of processAudio(), in order.
     void growBuffers (int numSamples);
     void followTransport();
+    void readSettings (int numChannels);
     void copyDry (const juce::AudioBuffer<float>& buffer);
     void runLfo (int numSamples);
-    void runDrive (juce::AudioBuffer<float>& buffer);
-    void runCrush (juce::AudioBuffer<float>& buffer);
-    void runDownsample (juce::AudioBuffer<float>& buffer);
-    void runFilter (juce::AudioBuffer<float>& buffer);
+    void steerDrive (const zembra::Chunk& chunk);
+    void steerCrush (const zembra::Chunk& chunk);
+    void steerDownsample (const zembra::Chunk& chunk);
+    void steerFilter (const zembra::Chunk& chunk);
+    void steerMix (const zembra::Chunk& chunk);
+    float runLoop (juce::AudioBuffer<float>& buffer, const zembra::Chunk& chunk);
+    void finishUnfused (juce::AudioBuffer<float>& buffer);
 
-    bool isModulated() const noexcept;
     void lockLfoToTransport() noexcept;
-    void switchFilters();
-    void runBypassedFilter (juce::AudioBuffer<float>& buffer);
-    void fillFilterCurves (FilterControls& controls, int numSamples);
-    template <typename Filter>
-    void runLadders (const std::array<Filter*, 2>& ladders, juce::AudioBuffer<float>& buffer);
+    const float* getLfo (const zembra::Chunk& chunk) const noexcept;
 
     bool hostIsLogic;
     juce::AudioPlayHead::PositionInfo positionInfo;
@@ -95,12 +101,12 @@ private:
     int numInputs = 0;
     int numOutputs = 0;
     int blockCapacity = 0;
-    juce::AudioBuffer<float> dryBuffer{ 2, 512 };  ///< the input, for the dry signal
-    juce::AudioBuffer<float> modBuffer{ 2, 512 };  ///< channel 0: the LFO, 0 to 1
-    juce::AudioBuffer<float> workBuffer{ 2, 512 }; ///< control values per sample
+    juce::AudioBuffer<float> dryBuffer{ 2, 512 }; ///< the input, for the dry signal
+    juce::AudioBuffer<float> modBuffer{ 2, 512 }; ///< channel 0: the LFO, 0 to 1
 
+    Settings settings{};
     CachedParam drive, driveDepth, crush, crushDepth, downsamp, downsampDepth;
-    FilterControls lowPassControls, hiPassControls;
+    std::array<CachedParam, 2> filterFreqs, filterRes; ///< by type
     CachedParam filterFreqDepth, filterResDepth;
     zembra::Relaxed<int> filterType{ 1 };
     zembra::Relaxed<bool> filterEnabled{ true };
@@ -112,12 +118,10 @@ private:
 
     zembra::DryWetProcessor dryWet;
     VorloParameters params;
-    std::array<zembra::SwitchableFilter, 2> filters;
-    std::array<VorloLowPassFilter*, 2> lowPass{};
-    std::array<VorloHiPassFilter*, 2> hiPass{};
     DriveStage driveStage{ 1e-5f };
     CrushStage crushStage;
     SampleHoldStage downsampler;
+    FilterStage filterStage;
     ZembraLfo lfo;
     juce::IIRFilter lfoSmoother;
     LfoSyncClock lfoClock;

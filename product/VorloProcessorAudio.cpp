@@ -1,29 +1,81 @@
 // The signal chain of the product's processor, step by step.
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "product/VorloProcessor.h"
+#include "product/dsp/ChainLoop.h"
 
 namespace
 {
 
-constexpr float lowestCutoff = 20.0f;
+using Loop = ChainLoop<zembra::VectorFrames>;
+
+/** The stretch of a block that begins at a sample. */
+zembra::Chunk getChunk (int start, int blockLength, bool mayAlwaysMove)
+{
+    const auto rest = blockLength - start;
+    const auto mayMove = start == 0 || mayAlwaysMove;
+    return { start, mayMove ? std::min (rest, zembra::Control::maxFrames) : rest, blockLength };
+}
 
 } // namespace
 
 void VorloProcessor::processAudio (juce::AudioBuffer<float>& buffer, juce::MidiBuffer&)
 {
-    growBuffers (buffer.getNumSamples());
+    const auto numSamples = buffer.getNumSamples();
+    growBuffers (numSamples);
     followTransport();
 
-    if (buffer.getNumSamples() == 0)
+    if (numSamples == 0)
         return;
 
+    readSettings (buffer.getNumChannels());
     copyDry (buffer);
-    runLfo (buffer.getNumSamples());
-    runDrive (buffer);
-    runCrush (buffer);
-    runDownsample (buffer);
-    runFilter (buffer);
-    dryWet.process (dryBuffer, buffer, buffer.getNumSamples());
+    runLfo (numSamples);
+
+    // The stages from here on are only told what to do with a stretch of the block, in their order.
+    // Then one loop takes each frame through all of them: see ChainLoop.
+    auto largest = 0.0f;
+
+    for (int start = 0; start < numSamples;)
+    {
+        const auto chunk =
+            getChunk (start, numSamples, settings.isModulated() || ! settings.isFused);
+        steerDrive (chunk);
+        steerCrush (chunk);
+        steerDownsample (chunk);
+        steerFilter (chunk);
+        steerMix (chunk);
+        largest = std::max (largest, runLoop (buffer, chunk));
+        start += chunk.length;
+    }
+
+    if (settings.isFused)
+        dryWet.limit (buffer, numSamples, largest);
+    else
+        finishUnfused (buffer);
+}
+
+void VorloProcessor::readSettings (int numChannels)
+{
+    settings.drive = { drive.value, driveDepth.value };
+    settings.crush = { crush.value, crushDepth.value };
+    settings.downsamp = { downsamp.value, downsampDepth.value };
+    settings.filter = { filterType,
+                        filterEnabled,
+                        { filterFreqs[0].value, filterFreqs[1].value },
+                        { filterRes[0].value, filterRes[1].value },
+                        filterFreqDepth.value,
+                        filterResDepth.value };
+    downsampler.matchChannels (numChannels);
+    filterStage.begin (settings.filter);
+    settings.numFiltered = std::min ({ 2, numOutputs, numChannels });
+    settings.isFused = numChannels == settings.numFiltered && numChannels == numOutputs
+                       && filterStage.isSettled (numChannels);
+}
+
+bool VorloProcessor::Settings::isModulated() const noexcept
+{
+    return drive.depth != 0.0f || crush.depth != 0.0f || downsamp.depth != 0.0f
+           || filter.freqDepth != 0.0f || filter.resDepth != 0.0f;
 }
 
 void VorloProcessor::growBuffers (int numSamples)
@@ -33,11 +85,9 @@ void VorloProcessor::growBuffers (int numSamples)
 
     blockCapacity = 2 * numSamples;
 
-    for (auto* buffer : { &dryBuffer, &modBuffer, &workBuffer })
+    for (auto* buffer : { &dryBuffer, &modBuffer })
         if (buffer->getNumChannels() != 2 || buffer->getNumSamples() != blockCapacity)
             buffer->setSize (2, blockCapacity, false, true);
-
-    driveStage.ensureCapacity (2, numSamples);
 }
 
 juce::Optional<juce::AudioPlayHead::PositionInfo> VorloProcessor::pollPlayHead()
@@ -93,15 +143,9 @@ void VorloProcessor::copyDry (const juce::AudioBuffer<float>& buffer)
         dryBuffer.copyFrom (channel, 0, buffer, channel, 0, buffer.getNumSamples());
 }
 
-bool VorloProcessor::isModulated() const noexcept
-{
-    return driveDepth.value != 0.0f || crushDepth.value != 0.0f || downsampDepth.value != 0.0f
-           || filterFreqDepth.value != 0.0f || filterResDepth.value != 0.0f;
-}
-
 void VorloProcessor::runLfo (int numSamples)
 {
-    if (! isModulated())
+    if (! settings.isModulated())
         return;
 
     lfo.setWaveform (lfoWaveform);
@@ -126,145 +170,99 @@ void VorloProcessor::lockLfoToTransport() noexcept
     lfo.setPosition (static_cast<float> (periods - std::trunc (periods)));
 }
 
-void VorloProcessor::runDrive (juce::AudioBuffer<float>& buffer)
+const float* VorloProcessor::getLfo (const zembra::Chunk& chunk) const noexcept
 {
-    const auto numSamples = buffer.getNumSamples();
-    const auto amount = drive.value.get();
-    const auto depth = driveDepth.value.get();
+    return modBuffer.getReadPointer (0, chunk.start);
+}
+
+void VorloProcessor::steerDrive (const zembra::Chunk& chunk)
+{
+    const auto [amount, depth] = settings.drive;
 
     if (depth == 0.0f)
-        return driveStage.process (buffer, numSamples, amount);
-
-    const auto* curve = modBuffer.getReadPointer (0);
-    auto* amounts = workBuffer.getWritePointer (0);
-
-    for (int i = 0; i < numSamples; ++i)
-        amounts[i] = amount - curve[i] * (amount * depth);
-
-    driveStage.process (buffer, std::min (numOutputs, buffer.getNumChannels()), numSamples,
-                        amounts);
-}
-
-void VorloProcessor::runCrush (juce::AudioBuffer<float>& buffer)
-{
-    const auto numSamples = buffer.getNumSamples();
-    const auto amount = crush.value.get();
-    const auto depth = crushDepth.value.get();
-
-    if (depth == 0.0f)
-        return crushStage.process (buffer, numSamples, amount);
-
-    const auto* curve = modBuffer.getReadPointer (0);
-    auto* amounts = workBuffer.getWritePointer (0);
-
-    for (int i = 0; i < numSamples; ++i)
-        amounts[i] = (1.0f - curve[i] * depth) * amount;
-
-    CrushStage::process (buffer, buffer.getNumChannels(), numSamples, amounts);
-}
-
-void VorloProcessor::runDownsample (juce::AudioBuffer<float>& buffer)
-{
-    const auto numSamples = buffer.getNumSamples();
-    const auto amount = downsamp.value.get();
-    const auto depth = downsampDepth.value.get();
-
-    if (depth == 0.0f)
-        return downsampler.process (buffer, numSamples, amount);
-
-    const auto* curve = modBuffer.getReadPointer (0);
-    auto* amounts = workBuffer.getWritePointer (0);
-
-    for (int i = 0; i < numSamples; ++i)
-        amounts[i] = (1.0f - curve[i] * depth) * amount;
-
-    downsampler.process (buffer, numSamples, amounts);
-}
-
-void VorloProcessor::switchFilters()
-{
-    for (auto& filter : filters)
-    {
-        filter.setActive (filterEnabled);
-        filter.select (filterType);
-    }
-}
-
-void VorloProcessor::runFilter (juce::AudioBuffer<float>& buffer)
-{
-    switchFilters();
-
-    if (! filterEnabled)
-        return runBypassedFilter (buffer);
-
-    const auto isLowPass = filterType == 0;
-    fillFilterCurves (isLowPass ? lowPassControls : hiPassControls, buffer.getNumSamples());
-
-    if (isLowPass)
-        runLadders (lowPass, buffer);
+        driveStage.steer (chunk, amount);
     else
-        runLadders (hiPass, buffer);
+        driveStage.steer (chunk, amount, depth, getLfo (chunk));
 }
 
-void VorloProcessor::runBypassedFilter (juce::AudioBuffer<float>& buffer)
+void VorloProcessor::steerCrush (const zembra::Chunk& chunk)
 {
-    for (auto* controls : { &lowPassControls, &hiPassControls })
+    const auto [amount, depth] = settings.crush;
+
+    if (depth == 0.0f)
+        crushStage.steer (amount);
+    else
+        crushStage.steer (chunk, amount, depth, getLfo (chunk));
+}
+
+void VorloProcessor::steerDownsample (const zembra::Chunk& chunk)
+{
+    const auto [amount, depth] = settings.downsamp;
+
+    if (depth == 0.0f)
+        downsampler.steer (amount);
+    else
+        downsampler.steer (chunk, amount, depth, getLfo (chunk));
+}
+
+void VorloProcessor::steerFilter (const zembra::Chunk& chunk)
+{
+    if (! settings.isFused || ! settings.filter.enabled)
+        return;
+
+    filterStage.steer (chunk, getLfo (chunk));
+    filterStage.skipFade (settings.numFiltered, chunk.length);
+}
+
+void VorloProcessor::steerMix (const zembra::Chunk& chunk)
+{
+    if (! settings.isFused)
+        return;
+
+    const auto& dry = dryWet.steer (chunk).dry;
+
+    // Silence, whatever the input: an infinity times 0 would be none.
+    if (dry.isSteadyAt (0.0f))
+        dryBuffer.clear (chunk.start, chunk.length);
+}
+
+float VorloProcessor::runLoop (juce::AudioBuffer<float>& buffer, const zembra::Chunk& chunk)
+{
+    const auto isFiltered = settings.isFused && settings.filter.enabled;
+    const Loop::Stages stages{ driveStage, crushStage, downsampler,
+                               isFiltered ? &filterStage : nullptr,
+                               settings.isFused ? &dryWet.getControls() : nullptr };
+    const auto* dry = dryBuffer.getReadPointer (0, chunk.start);
+    const auto* dryRight =
+        numInputs == 2 && numOutputs == 2 ? dryBuffer.getReadPointer (1, chunk.start) : dry;
+    const auto counter = downsampler.getCounter();
+    auto largest = 0.0f;
+
+    for (int left = 0; left < buffer.getNumChannels(); left += 2)
     {
-        controls->freqSmoother.setTarget (controls->freq.value);
-        controls->resSmoother.setTarget (controls->res.value);
+        const auto right = std::min (left + 1, buffer.getNumChannels() - 1);
+        downsampler.setCounter (counter);
+        Loop loop (stages,
+                   { { left, right },
+                     buffer.getWritePointer (left, chunk.start),
+                     buffer.getWritePointer (right, chunk.start),
+                     dry,
+                     dryRight },
+                   chunk.length);
+        largest = std::max (largest, loop.run());
+        driveStage.endPull();
     }
 
-    const auto numChannels = std::min ({ 2, numOutputs, buffer.getNumChannels() });
+    if (! settings.isFused && settings.filter.enabled)
+        filterStage.processChunk (buffer, settings.numFiltered, chunk, getLfo (chunk));
 
-    for (int channel = 0; channel < numChannels; ++channel)
-        filters[static_cast<size_t> (channel)].process (buffer.getWritePointer (channel),
-                                                        buffer.getNumSamples());
+    return largest;
 }
 
-void VorloProcessor::fillFilterCurves (FilterControls& controls, int numSamples)
+void VorloProcessor::finishUnfused (juce::AudioBuffer<float>& buffer)
 {
-    const auto freqDepth = filterFreqDepth.value.get();
-    const auto resDepth = filterResDepth.value.get();
-    auto* curve = modBuffer.getWritePointer (0);
-    auto* freq = workBuffer.getWritePointer (0);
-    auto* res = workBuffer.getWritePointer (1);
+    if (! settings.filter.enabled)
+        filterStage.processOff (buffer, settings.numFiltered);
 
-    // Under modulation the way from the knob down to 20 Hz is scaled.
-    const auto offset = freqDepth != 0.0f ? -lowestCutoff : 0.0f;
-    controls.freqSmoother.setTarget (controls.freq.value + offset);
-    controls.resSmoother.setTarget (controls.res.value);
-    controls.freqSmoother.fill (freq, numSamples);
-    controls.resSmoother.fill (res, numSamples);
-
-    if (resDepth != 0.0f)
-        for (int i = 0; i < numSamples; ++i)
-            res[i] = (1.0f - curve[i] * resDepth) * res[i];
-
-    if (freqDepth != 0.0f)
-        for (int i = 0; i < numSamples; ++i)
-            freq[i] = freq[i] + freq[i] * (curve[i] * -freqDepth) + lowestCutoff;
-}
-
-template <typename Filter>
-void VorloProcessor::runLadders (const std::array<Filter*, 2>& ladders,
-                                 juce::AudioBuffer<float>& buffer)
-{
-    const auto* freq = workBuffer.getReadPointer (0);
-    const auto* res = workBuffer.getReadPointer (1);
-    const auto numChannels = std::min ({ 2, numOutputs, buffer.getNumChannels() });
-
-    for (int channel = 0; channel < numChannels; ++channel)
-    {
-        auto& ladder = *ladders[static_cast<size_t> (channel)];
-        auto& filter = filters[static_cast<size_t> (channel)];
-        auto* samples = buffer.getWritePointer (channel);
-
-        for (int i = 0; i < buffer.getNumSamples(); ++i)
-        {
-            constexpr float lowest = 2.0f;
-            ladder.setCutoff (freq[i] > lowest ? freq[i] : lowest);
-            ladder.setResonance (res[i]);
-            samples[i] = filter.process (samples[i], ladder);
-        }
-    }
+    dryWet.process (dryBuffer, buffer, buffer.getNumSamples());
 }

@@ -2,7 +2,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "framework/core/ParamSet.h"
 
+#include "framework/core/XmlReader.h"
+
 #include <cmath>
+#include <limits>
 
 namespace zembra
 {
@@ -10,10 +13,14 @@ namespace zembra
 namespace
 {
 
-/** Reads a number in the precision that hosts and old files have. */
+/** Reads a number in the precision that hosts and old files have. What no float can hold becomes
+    the largest one, which the parameter's range then clamps; a NaN stays one.
+*/
 double getFloatAttribute (const juce::XmlElement& element, const juce::String& id, double fallback)
 {
-    return static_cast<double> (static_cast<float> (element.getDoubleAttribute (id, fallback)));
+    constexpr double limit = std::numeric_limits<float>::max();
+    const auto number = XmlReader::getNumber (element, id, fallback);
+    return static_cast<double> (static_cast<float> (std::clamp (number, -limit, limit)));
 }
 
 } // namespace
@@ -94,7 +101,8 @@ void ParamSet::setDefaultsFromXml (const juce::XmlElement& element)
             if (const auto plain =
                     getFloatAttribute (element, param->getId(), param->getDefaultValue());
                 ! std::isnan (plain))
-                param->setDefaultValue (plain);
+                param->setDefaultValue (
+                    std::clamp (plain, param->getMinValue(), param->getMaxValue()));
 }
 
 void ParamSet::paramChanged (Param*, double, double, int) { notifyStateChanged(); }

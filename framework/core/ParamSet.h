@@ -39,14 +39,16 @@ public:
 
     /** Restores all parameters that are stored and not frozen: first the meta parameters, of which
         a missing one goes to its minimum, then the others, of which a missing one goes to its
-        default. Texts that are no finite number are read as JUCE reads them; a NaN changes nothing.
+        default. A number beyond a range is clamped to it; a NaN changes nothing.
     */
     void loadFromXml (const juce::XmlElement& element) override;
 
     /** Sets frozen marks from ids with "1" or "0". An unknown id is a fault and is ignored. */
     void setFrozenStates (const juce::StringPairArray& states);
 
-    /** Takes new default values from an element as saveToXml() writes it; the values stand. */
+    /** Takes new default values, clamped to their ranges, from an element as saveToXml() writes it;
+        the values stand.
+    */
     void setDefaultsFromXml (const juce::XmlElement& element);
 
     Param** begin() noexcept { return params.begin(); }

@@ -4,6 +4,9 @@
 
 #include "framework/core/HostParameter.h"
 #include "framework/core/Settings.h"
+#include "framework/midi/MidiProgramsTable.h"
+#include "framework/midi/ParamsMidiMapper.h"
+#include "framework/presets/PresetFileManager.h"
 
 namespace zembra
 {
@@ -44,7 +47,7 @@ PluginProcessor::PluginProcessor (const ProductInfo& infoToUse, const FolderRoot
 {
 }
 
-PluginProcessor::~PluginProcessor() { cancelPendingUpdate(); }
+PluginProcessor::~PluginProcessor() { stopTimer(); }
 
 void PluginProcessor::setUpComplete()
 {
@@ -56,7 +59,16 @@ void PluginProcessor::setUpComplete()
                           .getChildFile (options.applicationName)
                           .withFileExtension (options.filenameSuffix);
     settings = std::make_unique<Settings> (file, options, paramSet);
+    paramsMidiMapper = std::make_unique<ParamsMidiMapper> (*this);
+    setUpPresets();
+    setUpMidi();
+
+    // After the default preset, which is loaded with nothing frozen.
     paramSet.setFrozenStates (settings->getFrozenStates());
+    setUpProduct();
+
+    if (wrapperType == wrapperType_AAX)
+        takeDefaultsFromDefaultPreset();
 }
 
 void PluginProcessor::processBlock (juce::AudioBuffer<float>& buffer, juce::MidiBuffer& midi)
@@ -65,14 +77,13 @@ void PluginProcessor::processBlock (juce::AudioBuffer<float>& buffer, juce::Midi
     juce::FloatVectorOperations::disableDenormalisedNumberSupport (true);
 
     if (isMidiEnabled())
+    {
+        const RealtimeMarks::Scope mark (midiCalls);
         processMidi (midi);
+    }
 
     processAudio (buffer, midi);
 }
-
-void PluginProcessor::processMidi (juce::MidiBuffer&) {}
-
-void PluginProcessor::handleAsyncUpdate() {}
 
 juce::AudioProcessorEditor* PluginProcessor::createEditor()
 {

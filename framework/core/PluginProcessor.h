@@ -6,12 +6,18 @@
 #include "framework/core/FrozenPresetStateManager.h"
 #include "framework/core/ParamSet.h"
 #include "framework/core/PreferencesStateManager.h"
+#include "framework/core/RealtimeMail.h"
+#include "framework/core/RealtimeMarks.h"
+#include "framework/core/Relaxed.h"
 
 #include <juce_audio_processors/juce_audio_processors.h>
 
 namespace zembra
 {
 
+class MidiProgramsTable;
+class ParamsMidiMapper;
+class PresetFileManager;
 class Settings;
 
 /** What the maker and the product call themselves. */
@@ -28,11 +34,20 @@ struct ProductInfo
     A product derives from it, makes its parameters in its constructor, calls setUpComplete() last,
     and implements processAudio() and paramChanged().
 */
-class PluginProcessor : public juce::AudioProcessor,
-                        public Param::Listener,
-                        private juce::AsyncUpdater
+class PluginProcessor : public juce::AudioProcessor, public Param::Listener, private juce::Timer
 {
 public:
+    /** Is told of the MIDI switches, on the thread of the change, never the audio thread. */
+    class Listener
+    {
+    public:
+        virtual ~Listener() = default;
+        virtual void midiEnabledChanged (PluginProcessor*, bool /*enabled*/) {}
+        virtual void midiProgramChangeEnabledChanged (PluginProcessor*, bool /*enabled*/) {}
+        virtual void midiChannelChanged (PluginProcessor*, int /*channel*/) {}
+        virtual void midiLearnChanged (PluginProcessor*) {}
+    };
+
     PluginProcessor (const ProductInfo& info, const FolderRoots& roots,
                      const BusesProperties& buses);
     ~PluginProcessor() override;
@@ -40,7 +55,9 @@ public:
     /** The product's audio routine. [audio thread] */
     virtual void processAudio (juce::AudioBuffer<float>& buffer, juce::MidiBuffer& midi) = 0;
 
-    /** Walks the MIDI of a block. [audio thread] */
+    /** Walks the MIDI of a block: controllers move their parameters at once, of the program changes
+        the last one is noted for the message thread. Never waits. [audio thread]
+    */
     virtual void processMidi (juce::MidiBuffer& midi);
 
     /** The year that the about box shows. */
@@ -61,8 +78,9 @@ public:
     /** How the settings file is written, and where. */
     virtual juce::PropertiesFile::Options getSettingsFileOptions() const;
 
-    /** Tells the host of a change, unless the host made it. A product overrides this to take the
-        value over, and calls it first. [any thread]
+    /** Tells the host of a change, unless the host made it; a change by MIDI is noted and reported by
+        deliverRealtimeChanges(). A product overrides this to take the value over, and calls it
+        first. [any thread]
     */
     void paramChanged (Param* param, double plainValue, double normalisedValue,
                        int source) override;
@@ -117,30 +135,91 @@ public:
     FrozenPresetStateManager& getFrozenPresetStateManager() noexcept { return frozenStates; }
     PreferencesStateManager& getPreferencesStateManager() noexcept { return preferences; }
     Settings& getSettings() noexcept { return *settings; }
+
+    /** The presets of the parameters, and those of the MIDI map. */
+    PresetFileManager& getPresetFileManager() noexcept { return *presetFileManager; }
+    PresetFileManager& getMidiPresetFileManager() noexcept { return *midiPresetFileManager; }
+
+    /** The editor's size in pixels, -1 until an editor or a project has set it. [any thread] */
+    int getPluginEditorWidth() const noexcept { return pluginEditorWidth; }
+    int getPluginEditorHeight() const noexcept { return pluginEditorHeight; }
+    void setPluginEditorWidth (int width) noexcept { pluginEditorWidth = width; }
+    void setPluginEditorHeight (int height) noexcept { pluginEditorHeight = height; }
     const ProductInfo& getProductInfo() const noexcept { return info; }
     const FolderRoots& getFolderRoots() const noexcept { return folderRoots; }
     const juce::String& getCompanyName() const noexcept { return info.companyName; }
     const juce::String& getVersionString() const noexcept { return info.version; }
+    ParamsMidiMapper& getParamsMidiMapper() noexcept { return *paramsMidiMapper; }
 
-    /** The editor's size in pixels, kept while no editor is open; below 1 while it is unset.
-        [any thread]
-    */
-    int getPluginEditorWidth() const noexcept { return pluginEditorWidth; }
-    int getPluginEditorHeight() const noexcept { return pluginEditorHeight; }
-    void setPluginEditorSize (int width, int height) noexcept
+    /** Whether processBlock() looks at MIDI at all. [any thread] */
+    bool isMidiEnabled() const noexcept { return midiEnabled.load (std::memory_order_relaxed); }
+
+    /** Whether program changes load presets. [any thread] */
+    bool isMidiProgramChangeEnabled() const noexcept
     {
-        pluginEditorWidth = width;
-        pluginEditorHeight = height;
+        return midiProgramChangeEnabled.load (std::memory_order_relaxed);
     }
 
-    bool isMidiEnabled() const noexcept { return midiEnabled.load (std::memory_order_relaxed); }
+    /** The channel whose controllers count, 1 to 16, or 0 for all. [any thread] */
+    int getMidiChannel() const noexcept { return midiChannel; }
+
+    /** These tell the listeners if the value changes; the channel tells them in any case.
+        [any thread but audio]
+    */
+    void setMidiEnabled (bool shouldBeEnabled);
+    void setMidiProgramChangeEnabled (bool shouldBeEnabled);
+    void setMidiChannel (int channel);
+
+    /** Enables MIDI and gives the next controllers that move to this parameter, the last one for
+        good. Another call changes the parameter. [message thread]
+    */
+    void startLearning (const juce::String& paramId);
+
+    /** Ends learning when it was called as often as learning was started. MIDI stays enabled.
+        [message thread]
+    */
+    void stopLearning();
+
+    /** The parameter that is being learned, or null. [any thread] */
+    Param* getMidiLearnParam() const noexcept { return midiLearnParam; }
+
+    using juce::AudioProcessor::addListener;
+    using juce::AudioProcessor::removeListener;
+
+    /** Adds a listener, and tells it at once whether MIDI is enabled. [any thread but audio] */
+    void addListener (Listener* listener);
+    void removeListener (Listener* listener) { midiListeners.remove (listener); }
+
+    /** True on a thread that is inside this processor's MIDI handling or inside the host's
+        setParameter(): nothing called from there may wait. Never waits itself. [any thread]
+    */
+    bool isInRealtimeCall() const noexcept
+    {
+        return midiCalls.isMarked() || automationCalls.isMarked();
+    }
+
+    /** Does what realtime threads have left undone: tells the host of parameters that MIDI moved,
+        tells of presets that became dirty, loads the preset of a program change. Runs on a timer;
+        who has no message loop calls it by hand. [message thread]
+    */
+    void deliverRealtimeChanges();
 
 protected:
     /** Runs the framework's start-up. The product calls it when all its parameters exist. */
     void setUpComplete();
 
+    /** What a product adds to the start-up; runs inside setUpComplete(). */
+    virtual void setUpProduct() {}
+
 private:
-    void handleAsyncUpdate() override;
+    void setUpPresets();
+    void takeDefaultsFromDefaultPreset();
+    void unfreezeAll();
+    void timerCallback() override { deliverRealtimeChanges(); }
+    void setUpMidi();
+    void handleController (int channel, int cc, int value);
+    void loadPendingProgram();
+    void tellHost (int index, double normalised, int source);
 
     const ProductInfo info;
     const FolderRoots folderRoots;
@@ -150,9 +229,20 @@ private:
     PreferencesStateManager preferences;
     std::unique_ptr<Settings> settings;
     std::atomic<int> hostSetGuard{ 0 };
-    std::atomic<int> pluginEditorWidth{ -1 };
-    std::atomic<int> pluginEditorHeight{ -1 };
+
+    Relaxed<int> pluginEditorWidth{ -1 }, pluginEditorHeight{ -1 };
+
+    std::unique_ptr<ParamsMidiMapper> paramsMidiMapper;
+    std::unique_ptr<PresetFileManager> presetFileManager, midiPresetFileManager;
+    std::unique_ptr<juce::SharedResourcePointer<MidiProgramsTable>> midiPrograms;
     std::atomic<bool> midiEnabled{ false };
+    std::atomic<bool> midiProgramChangeEnabled{ false };
+    Relaxed<int> midiChannel{ 0 };
+    Relaxed<Param*> midiLearnParam{ nullptr };
+    int midiLearnCount = 0;
+    ListenerArray<Listener> midiListeners;
+    RealtimeMail realtimeMail;
+    RealtimeMarks midiCalls, automationCalls;
 
     JUCE_DECLARE_NON_COPYABLE_WITH_LEAK_DETECTOR (PluginProcessor)
 };

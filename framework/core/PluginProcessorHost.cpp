@@ -89,6 +89,7 @@ void PluginProcessor::setParameter (int index, float newValue)
     if (param == nullptr || ! param->isAutomatable())
         return;
 
+    const RealtimeMarks::Scope mark (automationCalls);
     param->setValue (param->denormalise (static_cast<double> (newValue)), sourceHost, &undoManager);
     hostSetGuard.store (0, std::memory_order_relaxed);
 }
@@ -103,7 +104,16 @@ void PluginProcessor::paramChanged (Param* param, double, double normalisedValue
     if (index < 0)
         return;
 
-    const auto value = static_cast<float> (normalisedValue);
+    // A host may do anything when it is told, and JUCE takes locks on the way: not on the audio thread.
+    if (midiCalls.isMarked())
+        realtimeMail.postParam (index);
+    else
+        tellHost (index, normalisedValue, source);
+}
+
+void PluginProcessor::tellHost (int index, double normalised, int source)
+{
+    const auto value = static_cast<float> (normalised);
     hostSetGuard.store (source, std::memory_order_relaxed);
     setParameter (index, value);
     sendParamChangeMessageToListeners (index, value);

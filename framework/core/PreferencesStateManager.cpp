@@ -9,8 +9,10 @@ PreferencesStateManager::PreferencesStateManager() : PresetStateManager ("instan
 
 void PreferencesStateManager::saveToXml (juce::XmlElement& element)
 {
+    // A key that is no XML name would make the whole state unreadable.
     for (const auto& key : values.getAllKeys())
-        element.setAttribute (key, values[key]);
+        if (juce::XmlElement::isValidXmlName (key))
+            element.setAttribute (key, values[key]);
 }
 
 void PreferencesStateManager::loadFromXml (const juce::XmlElement& element)

@@ -5,6 +5,21 @@
 namespace zembra
 {
 
+namespace
+{
+
+/** The first child with exactly this tag: JUCE's own search takes any case for the same. */
+const juce::XmlElement* findChild (const juce::XmlElement& parent, const juce::String& tag)
+{
+    for (const auto* child : parent.getChildIterator())
+        if (child->getTagName() == tag)
+            return child;
+
+    return nullptr;
+}
+
+} // namespace
+
 PresetStateManager::PresetStateManager (const juce::String& nameToUse,
                                         const juce::String& typeToUse)
     : name (nameToUse.toUpperCase()),
@@ -14,7 +29,7 @@ PresetStateManager::PresetStateManager (const juce::String& nameToUse,
 
 bool PresetStateManager::canLoadXml (const juce::XmlElement& parent) const
 {
-    if (parent.getChildByName (name) != nullptr)
+    if (findChild (parent, name) != nullptr)
         return true;
 
     return type.isNotEmpty() && parent.getStringAttribute ("type") == type;
@@ -34,7 +49,7 @@ bool PresetStateManager::loadFromParent (const juce::XmlElement& parent)
     if (! canLoadXml (parent))
         return false;
 
-    if (const auto* child = parent.getChildByName (name))
+    if (const auto* child = findChild (parent, name))
     {
         loadFromXml (*child);
         return true;
@@ -62,7 +77,7 @@ juce::String PresetStateManager::getAuthor (const juce::XmlElement& parent) cons
 juce::String PresetStateManager::getTextOfChild (const juce::XmlElement& parent,
                                                  const char* attribute) const
 {
-    const auto* child = canLoadXml (parent) ? parent.getChildByName (name) : nullptr;
+    const auto* child = canLoadXml (parent) ? findChild (parent, name) : nullptr;
     return child != nullptr ? child->getStringAttribute (attribute) : juce::String();
 }
 

@@ -7,27 +7,25 @@ namespace zembra
 
 Settings::Settings (const juce::File& file, const juce::PropertiesFile::Options& options,
                     ParamSet& params)
-    : propertiesFile (file, options),
+    : settingsFile (file, options.millisecondsBeforeSaving),
       paramSet (params)
 {
 }
 
-Settings::~Settings() { propertiesFile.saveIfNeeded(); }
-
 juce::String Settings::getValue (const juce::String& key, const juce::String& defaultValue) const
 {
-    return propertiesFile.getValue (key, defaultValue);
+    return settingsFile.getValue (key, defaultValue);
 }
 
 void Settings::setValue (const juce::String& key, const juce::String& value)
 {
-    propertiesFile.setValue (key, value);
+    settingsFile.setValue (key, value);
 }
 
 juce::StringPairArray Settings::getFrozenStates() const
 {
     juce::StringPairArray states (true);
-    const auto tree = propertiesFile.getXmlValue ("frozen");
+    const auto tree = settingsFile.getTree ("frozen");
 
     if (tree != nullptr)
         if (const auto* marks = tree->getChildByName ("STATES"))
@@ -39,13 +37,13 @@ juce::StringPairArray Settings::getFrozenStates() const
 
 void Settings::saveFrozenStates()
 {
-    auto marks = std::make_unique<juce::XmlElement> ("STATES");
+    juce::XmlElement marks ("STATES");
 
     for (int i = paramSet.getNumParams(); --i >= 0;)
-        marks->setAttribute (paramSet.getParam (i)->getId(),
-                             paramSet.getParam (i)->isFrozen() ? 1 : 0);
+        marks.setAttribute (paramSet.getParam (i)->getId(),
+                            paramSet.getParam (i)->isFrozen() ? 1 : 0);
 
-    replaceChild ("frozen", "FROZEN", std::move (marks));
+    settingsFile.setChild ("frozen", "FROZEN", marks);
 }
 
 juce::String Settings::getRecentFiles (const juce::String& key) const
@@ -71,7 +69,7 @@ void Settings::setDefaultPreset (const juce::String& key, const juce::String& pa
 juce::String Settings::getChildText (const juce::String& key, const char* tag,
                                      const char* attribute) const
 {
-    const auto tree = propertiesFile.getXmlValue (key);
+    const auto tree = settingsFile.getTree (key);
     const auto* child = tree != nullptr ? tree->getChildByName (tag) : nullptr;
     return child != nullptr ? child->getStringAttribute (attribute) : juce::String();
 }
@@ -79,22 +77,9 @@ juce::String Settings::getChildText (const juce::String& key, const char* tag,
 void Settings::setChildText (const juce::String& key, const char* tag, const char* attribute,
                              const juce::String& text)
 {
-    auto child = std::make_unique<juce::XmlElement> (tag);
-    child->setAttribute (attribute, text);
-    replaceChild (key, key, std::move (child));
-}
-
-void Settings::replaceChild (const juce::String& key, const juce::String& rootTag,
-                             std::unique_ptr<juce::XmlElement> child)
-{
-    auto tree = propertiesFile.getXmlValue (key);
-
-    if (tree == nullptr)
-        tree = std::make_unique<juce::XmlElement> (rootTag);
-
-    tree->deleteAllChildElementsWithTagName (child->getTagName());
-    tree->addChildElement (child.release());
-    propertiesFile.setValue (key, tree.get());
+    juce::XmlElement child (tag);
+    child.setAttribute (attribute, text);
+    settingsFile.setChild (key, key, child);
 }
 
 } // namespace zembra

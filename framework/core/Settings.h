@@ -3,23 +3,23 @@
 #pragma once
 
 #include "framework/core/ParamSet.h"
+#include "framework/core/SettingsFile.h"
 
 namespace zembra
 {
 
 /** Reads and writes the settings file: language, default frozen marks, recent and default presets,
-    update check. The file is written a moment after a change, and when this object goes.
-    [message thread]
+    update check. The file is written a moment after a change, and when this object goes; what other
+    instances and processes wrote meanwhile stays. [any thread but audio]
 */
 class Settings final
 {
 public:
     /** @param file     the settings file; it and its folders are made when something is written
-        @param options  how the file is written; its location is `file` alone
+        @param options  of these, `millisecondsBeforeSaving` counts; the location is `file` alone
     */
     Settings (const juce::File& file, const juce::PropertiesFile::Options& options,
               ParamSet& params);
-    ~Settings();
 
     juce::String getValue (const juce::String& key, const juce::String& defaultValue = {}) const;
     void setValue (const juce::String& key, const juce::String& value);
@@ -45,17 +45,15 @@ public:
     void setDefaultPreset (const juce::String& key, const juce::String& path);
 
     /** Writes what is pending; false if the file can't be written. */
-    bool flush() { return propertiesFile.saveIfNeeded(); }
+    bool flush() { return settingsFile.flush(); }
 
 private:
     juce::String getChildText (const juce::String& key, const char* tag,
                                const char* attribute) const;
     void setChildText (const juce::String& key, const char* tag, const char* attribute,
                        const juce::String& text);
-    void replaceChild (const juce::String& key, const juce::String& rootTag,
-                       std::unique_ptr<juce::XmlElement> child);
 
-    juce::PropertiesFile propertiesFile;
+    SettingsFile settingsFile;
     ParamSet& paramSet;
 
     JUCE_DECLARE_NON_COPYABLE_WITH_LEAK_DETECTOR (Settings)

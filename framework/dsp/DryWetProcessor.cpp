@@ -100,27 +100,61 @@ void DryWetProcessor::moveWet (double decibels, int source)
         dry->setValue (decibels + linkOffset, sourceLinked);
 }
 
-void DryWetProcessor::process (juce::AudioBuffer<float>& dryBuffer,
-                               juce::AudioBuffer<float>& buffer, int numSamples)
+int DryWetProcessor::matchLimiters (int numChannels)
 {
-    const auto numInputs = processor.getTotalNumInputChannels();
-    const auto numOutputs =
-        std::min (processor.getTotalNumOutputChannels(), buffer.getNumChannels());
+    const auto numOutputs = std::min (processor.getTotalNumOutputChannels(), numChannels);
 
     if (numOutputs > static_cast<int> (limiters.size()))
         limiters.resize (static_cast<size_t> (numOutputs));
 
+    return numOutputs;
+}
+
+void DryWetProcessor::process (juce::AudioBuffer<float>& dryBuffer,
+                               juce::AudioBuffer<float>& buffer, int numSamples)
+{
     wetRamp.applyToBlock (buffer, numSamples, wetBypassed ? 0.0f : wetGain.get());
     dryRamp.applyToBlock (dryBuffer, numSamples, dryBypassed ? 0.0f : dryGain.get());
+
+    const auto isStraight =
+        processor.getTotalNumInputChannels() == processor.getTotalNumOutputChannels();
+    const auto numOutputs = matchLimiters (buffer.getNumChannels());
 
     for (int channel = 0; channel < numOutputs; ++channel)
     {
         // A mono input feeds every output.
-        const auto source = numInputs == processor.getTotalNumOutputChannels() ? channel : 0;
-
-        buffer.addFrom (channel, 0, dryBuffer, source, 0, numSamples);
+        buffer.addFrom (channel, 0, dryBuffer, isStraight ? channel : 0, 0, numSamples);
         limiters[static_cast<size_t> (channel)].process (buffer.getWritePointer (channel),
                                                          numSamples);
+    }
+}
+
+MixControls& DryWetProcessor::steer (const Chunk& chunk) noexcept
+{
+    if (chunk.isFirst())
+    {
+        wetRamp.beginBlock (chunk.blockLength, wetBypassed ? 0.0f : wetGain.get(), controls.wet);
+        dryRamp.beginBlock (chunk.blockLength, dryBypassed ? 0.0f : dryGain.get(), controls.dry);
+    }
+    else
+    {
+        wetRamp.rest (controls.wet);
+        dryRamp.rest (controls.dry);
+    }
+
+    return controls;
+}
+
+void DryWetProcessor::limit (juce::AudioBuffer<float>& buffer, int numSamples, float largest)
+{
+    const auto numOutputs = matchLimiters (buffer.getNumChannels());
+
+    for (int channel = 0; channel < numOutputs; ++channel)
+    {
+        auto& limiter = limiters[static_cast<size_t> (channel)];
+
+        if (! limiter.passes (largest))
+            limiter.process (buffer.getWritePointer (channel), numSamples);
     }
 }
 

@@ -4,7 +4,9 @@
 
 #include "framework/core/Param.h"
 #include "framework/core/Relaxed.h"
+#include "framework/dsp/Chunk.h"
 #include "framework/dsp/GainRamp.h"
+#include "framework/dsp/MixControls.h"
 #include "framework/dsp/OutputLimiter.h"
 
 #include <vector>
@@ -39,6 +41,14 @@ public:
     void process (juce::AudioBuffer<float>& dryBuffer, juce::AudioBuffer<float>& buffer,
                   int numSamples);
 
+    /** Steers a chunk of the mix for a loop that does it itself, and then calls limit(). */
+    MixControls& steer (const Chunk& chunk) noexcept;
+
+    MixControls& getControls() noexcept { return controls; }
+
+    /** Limits a block of the mix, whose largest magnitude is known. [audio thread] */
+    void limit (juce::AudioBuffer<float>& buffer, int numSamples, float largest);
+
     /** The five parameters, in the order of the set. */
     const std::vector<Param*>& getParams() const noexcept { return params; }
 
@@ -48,6 +58,7 @@ private:
     float decibelsToGain (double decibels) const;
     void moveDry (double decibels, int source);
     void moveWet (double decibels, int source);
+    int matchLimiters (int numChannels);
     void takeLinkOffset() { linkOffset = dry->getValue() - wet->getValue(); }
 
     PluginProcessor& processor;
@@ -56,6 +67,7 @@ private:
     Relaxed<bool> dryBypassed, wetBypassed, linked;
     Relaxed<double> linkOffset;
     GainRamp dryRamp, wetRamp;
+    MixControls controls;
     std::vector<OutputLimiter> limiters;
     std::vector<Param*> params;
     Param* dry = nullptr;

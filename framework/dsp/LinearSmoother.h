@@ -20,6 +20,10 @@ public:
 
     float getTolerance() const noexcept { return tolerance; }
     float getCurrent() const noexcept { return current; }
+    float getTarget() const noexcept { return target; }
+
+    /** True when no glide is going on: every value to come is the target. */
+    bool isDone() const noexcept { return done; }
 
 private:
     static constexpr int steps = 128;

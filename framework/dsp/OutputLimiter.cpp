@@ -2,23 +2,69 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "framework/dsp/OutputLimiter.h"
 
+#include <algorithm>
 #include <cmath>
+#include <limits>
 
 namespace zembra
 {
 
-void OutputLimiter::process (float* samples, int numSamples) noexcept
+namespace
 {
-    constexpr float closeEnough = 0.0001f;
+
+bool hasPeak (const float* samples, int numSamples, float threshold) noexcept
+{
+    int found = 0;
 
     for (int i = 0; i < numSamples; ++i)
-    {
-        gain += nextGainStep (std::abs (samples[i]));
-        samples[i] *= gain;
+        found |= std::abs (samples[i]) >= threshold ? 1 : 0;
 
-        if (std::abs (gain - targetGain) <= closeEnough)
-            gain = targetGain;
+    return found != 0;
+}
+
+} // namespace
+
+void OutputLimiter::process (float* samples, int numSamples) noexcept
+{
+    if (! hasPeak (samples, numSamples, threshold))
+        return processQuiet (samples, numSamples);
+
+    for (int i = 0; i < numSamples; ++i)
+        samples[i] = processSample (samples[i]);
+}
+
+void OutputLimiter::processQuiet (float* samples, int numSamples) noexcept
+{
+    while (numSamples > 0 && gain != 1.0f)
+    {
+        // Up to the next step of the recovery the gain holds.
+        const auto held = std::min (numSamples, holdSamples - 1 - holdCounter);
+
+        for (int i = 0; i < held; ++i)
+            samples[i] *= gain;
+
+        holdCounter += held;
+
+        if (held < numSamples)
+            samples[held] = processSample (samples[held]);
+
+        samples += held + 1;
+        numSamples -= held + 1;
     }
+}
+
+float OutputLimiter::processSample (float x) noexcept
+{
+    constexpr float closeEnough = 0.0001f;
+    constexpr auto largest = std::numeric_limits<float>::max();
+
+    gain += nextGainStep (std::abs (x));
+    const auto y = (std::isinf (x) ? std::copysign (largest, x) : x) * gain;
+
+    if (std::abs (gain - targetGain) <= closeEnough)
+        gain = targetGain;
+
+    return y;
 }
 
 float OutputLimiter::nextGainStep (float magnitude) noexcept

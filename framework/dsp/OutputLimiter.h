@@ -10,14 +10,20 @@ namespace zembra
 
     Each gain step acts on one sample only. After 4096 samples below the threshold the gain recovers
     by one step of 1/256 of the way, and the count begins again: the recovery is a staircase, which
-    is part of the effect's sound. A NaN passes. [audio thread]
+    is part of the effect's sound. A NaN passes; an infinity is taken for the largest number.
+    [audio thread]
 */
 class OutputLimiter final
 {
 public:
     void process (float* samples, int numSamples) noexcept;
 
+    /** True if samples up to this magnitude would pass untouched. */
+    bool passes (float largest) const noexcept { return gain == 1.0f && ! (largest >= threshold); }
+
 private:
+    void processQuiet (float* samples, int numSamples) noexcept;
+    float processSample (float x) noexcept;
     float nextGainStep (float magnitude) noexcept;
 
     static constexpr float threshold = 4.0f;

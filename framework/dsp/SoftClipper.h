@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "framework/dsp/SampleMath.h"
+
 namespace zembra
 {
 
@@ -19,19 +21,18 @@ public:
     {
     }
 
-    /** Clips one sample to the open range -1 to 1. A NaN stays one. [audio thread] */
-    float clip (float x) const noexcept
+    /** Clips samples to the open range -1 to 1. A NaN stays one. [audio thread] */
+    template <typename Sample>
+    Sample clip (Sample x) const noexcept
     {
-        return x >= 0.0f ? saturate (x * positiveFactor) : -saturate (x * negativeFactor);
+        // Of the two products one is positive: the one by the factor of the sample's own side. So
+        // neither side needs a branch, which a ladder's feedback would have to wait for.
+        const auto u = larger (x * Sample (negativeFactor), x * Sample (positiveFactor));
+        const auto p = ((u + Sample (3.0f)) * u + Sample (6.0f)) * u;
+        return withSign (p / (p + Sample (12.0f)), x);
     }
 
 private:
-    static float saturate (float u) noexcept
-    {
-        const auto p = ((u + 3.0f) * u + 6.0f) * u;
-        return p / (p + 12.0f);
-    }
-
     float positiveFactor, negativeFactor;
 };
 

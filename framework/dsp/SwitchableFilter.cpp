@@ -91,6 +91,15 @@ void SwitchableFilter::countFade (int numSamples) noexcept
     bypassed = bypassed || ! active;
 }
 
+void SwitchableFilter::skipFade (int numSamples) noexcept
+{
+    for (; fading && numSamples > 0; --numSamples)
+    {
+        fade.advance (active ? 1.0f : 0.0f);
+        countFade (1);
+    }
+}
+
 void SwitchableFilter::process (float* samples, int numSamples)
 {
     auto* filter = getFilter (current);

@@ -52,14 +52,18 @@ public:
         const auto y =
             switching ? crossFade (x, currentFilter.process (x)) : currentFilter.process (x);
 
-        if (fading)
-        {
-            fade.advance (active ? 1.0f : 0.0f);
-            countFade (1);
-        }
-
+        skipFade (1);
         return y;
     }
+
+    /** Does for the fade what `numSamples` calls of the per-sample path do. */
+    void skipFade (int numSamples) noexcept;
+
+    /** True while one filter fades into another. */
+    bool isSwitching() const noexcept { return switching; }
+
+    /** True when the whole is faded out, so that blocks are left as they are. */
+    bool isBypassed() const noexcept { return bypassed; }
 
 private:
     static constexpr int fadeLength = 256;

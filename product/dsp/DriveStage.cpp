@@ -1,17 +1,12 @@
-// The block path and the per-sample path of the drive.
+// How the drive's factors follow its amount.
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "product/dsp/DriveStage.h"
 
+#include "framework/dsp/CurveMath.h"
+
 DriveStage::DriveStage (float asymmetry) : clipper (asymmetry) {}
 
-void DriveStage::ensureCapacity (int numChannels, int numSamples)
-{
-    if (work.getNumChannels() < numChannels || work.getNumSamples() < numSamples)
-        work.setSize (std::max (numChannels, work.getNumChannels()),
-                      std::max (2 * numSamples, work.getNumSamples()));
-}
-
-void DriveStage::setAmount (float newAmount)
+void DriveStage::setAmount (float newAmount) noexcept
 {
     if (newAmount == amount)
         return;
@@ -21,50 +16,52 @@ void DriveStage::setAmount (float newAmount)
     dryLevel = 1.0f - amount;
 }
 
-void DriveStage::process (juce::AudioBuffer<float>& buffer, int numSamples, float newAmount)
+void DriveStage::steer (const zembra::Chunk& chunk, float newAmount) noexcept
 {
-    setAmount (newAmount);
-    ensureCapacity (buffer.getNumChannels(), numSamples);
-    juce::AudioBuffer<float> driven (work.getArrayOfWritePointers(), buffer.getNumChannels(),
-                                     numSamples);
+    auto& [input, dry, wet] = controls;
 
-    for (int channel = 0; channel < buffer.getNumChannels(); ++channel)
-        driven.copyFrom (channel, 0, buffer, channel, 0, numSamples);
-
-    inputGain.applyToBlock (driven, numSamples, preGain);
-
-    for (int channel = 0; channel < driven.getNumChannels(); ++channel)
+    if (chunk.isFirst())
     {
-        auto* samples = driven.getWritePointer (channel);
-
-        for (int i = 0; i < numSamples; ++i)
-            samples[i] = clipper.clip (clipper.clip (samples[i]));
+        setAmount (newAmount);
+        inputGain.beginBlock (chunk.blockLength, preGain, input);
+        dryGain.beginBlock (chunk.blockLength, dryLevel, dry);
+        wetGain.beginBlock (chunk.blockLength, amount, wet);
+    }
+    else
+    {
+        inputGain.rest (input);
+        dryGain.rest (dry);
+        wetGain.rest (wet);
     }
 
-    dryGain.applyToBlock (buffer, numSamples, dryLevel);
-    wetGain.applyToBlock (driven, numSamples, amount);
-
-    for (int channel = 0; channel < buffer.getNumChannels(); ++channel)
-        buffer.addFrom (channel, 0, driven, channel, 0, numSamples);
+    const auto isTransparent = dry.isSteadyAt (1.0f) && wet.isSteadyAt (0.0f);
+    mode = isTransparent ? Mode::nothing : Mode::steered;
 }
 
-void DriveStage::process (juce::AudioBuffer<float>& buffer, int numChannels, int numSamples,
-                          const float* amounts)
+void DriveStage::steer (const zembra::Chunk& chunk, float newAmount, float depth,
+                        const float* lfo) noexcept
 {
-    auto* const* channels = buffer.getArrayOfWritePointers();
-
-    for (int i = 0; i < numSamples; ++i)
+    for (int i = 0; i < chunk.length; ++i)
     {
-        setAmount (amounts[i]);
-        const auto input = inputGain.advance (preGain);
-        const auto dry = dryGain.advance (dryLevel);
-        const auto wet = wetGain.advance (amount);
-
-        for (int channel = 0; channel < numChannels; ++channel)
-        {
-            auto& x = channels[channel][i];
-            const auto driven = clipper.clip (clipper.clip (clipper.clip (x * input)));
-            x = x * dry + driven * wet;
-        }
+        const auto pulled = newAmount - lfo[i] * (newAmount * depth);
+        targets[static_cast<size_t> (i)] = { zembra::fastExp2 (4.0f * pulled), 1.0f - pulled,
+                                             pulled, 0.0f };
     }
+
+    mode = Mode::pulled;
+
+    // A steady amount takes its factors anew, from the library's exact function.
+    amount = -1.0f;
+}
+
+DriveStage::Factors DriveStage::getFactors() const noexcept
+{
+    return { inputGain.getGain(), dryGain.getGain(), wetGain.getGain(), 0.0f };
+}
+
+void DriveStage::setFactors (const Factors& reached) noexcept
+{
+    inputGain.setGain (reached.input);
+    dryGain.setGain (reached.dry);
+    wetGain.setGain (reached.wet);
 }

@@ -2,8 +2,14 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "product/dsp/LadderCoefficients.h"
 
-#include <algorithm>
-#include <cmath>
+#include "framework/dsp/CurveMath.h"
+
+namespace
+{
+
+constexpr float pi = 3.1415927f;
+
+}
 
 void LadderCoefficients::prepare (float newSampleRate) noexcept
 {
@@ -18,11 +24,35 @@ void LadderCoefficients::prepare (float newSampleRate) noexcept
 
 void LadderCoefficients::tune (float newCutoff) noexcept
 {
-    constexpr float pi = 3.1415927f;
-
     targetCutoff = newCutoff;
     cutoff = std::min (newCutoff, nyquist);
     const auto t = 2.0f * std::tan (invSampleRate * pi * cutoff);
-    g = t / (t + 2.0f);
-    b = (t - 2.0f) / (t + 2.0f);
+    tuning.g = t / (t + 2.0f);
+    tuning.b = (t - 2.0f) / (t + 2.0f);
+}
+
+void LadderCoefficients::trace (const float* cutoffs, const float* resonances, int numSamples,
+                                LadderTuning<zembra::Control>& controls) noexcept
+{
+    auto* const g = controls.g.move();
+    auto* const b = controls.b.move();
+    auto* const feedback = controls.feedback.move();
+    const auto highest = nyquist;
+    const auto radiansPerHertz = invSampleRate * pi;
+
+    for (int i = 0; i < numSamples; ++i)
+    {
+        const auto limited = cutoffs[i] < highest ? cutoffs[i] : highest;
+        const auto [n, d] = zembra::fastTangent (radiansPerHertz * limited);
+        g[i] = n / (n + d);
+        b[i] = (n - d) / (n + d);
+    }
+
+    for (int i = 0; i < numSamples; ++i)
+        feedback[i] = resonances[i] * highestFeedback;
+
+    constexpr float unknown = -1.0f;
+    targetCutoff = cutoffs[numSamples - 1];
+    cutoff = unknown;
+    setResonance (resonances[numSamples - 1]);
 }

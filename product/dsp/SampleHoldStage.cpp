@@ -1,12 +1,20 @@
-// The clock of the sample and hold.
+// How the length of the hold follows its amount.
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "product/dsp/SampleHoldStage.h"
 
 #include <cmath>
 
-float SampleHoldStage::amountToStep (float amount) const noexcept
+SampleHoldStage::SampleHoldStage()
 {
-    return 1.0f / (std::pow (amount, 3.0f) * longestHold + 1.0f);
+    constexpr size_t usualChannels = 8;
+    held.reserve (usualChannels);
+    held.resize (1);
+}
+
+void SampleHoldStage::prepare (float sampleRate) noexcept
+{
+    longestHold = sampleRate / 100.0f - 1.0f;
+    steadyAmount = -1.0f;
 }
 
 void SampleHoldStage::matchChannels (int numChannels)
@@ -17,45 +25,27 @@ void SampleHoldStage::matchChannels (int numChannels)
     numHeldChannels = static_cast<size_t> (numChannels);
 }
 
-void SampleHoldStage::processSample (float* const* channels, int numChannels, int index,
-                                     float step) noexcept
+void SampleHoldStage::steer (float amount) noexcept
 {
-    counter -= 1.0f;
-    const auto takesSample = counter <= 0.0f;
-
-    if (takesSample)
-        counter = 1.0f / step;
-
-    for (int channel = 0; channel < numChannels; ++channel)
+    if (amount != steadyAmount)
     {
-        auto& value = held[static_cast<size_t> (channel)];
-        auto& sample = channels[channel][index];
-
-        if (takesSample)
-            value = sample;
-        else
-            sample = value;
+        const auto step = 1.0f / (std::pow (amount, 3.0f) * longestHold + 1.0f);
+        steadyAmount = amount;
+        steadyLength = 1.0f / step;
     }
+
+    holdLength.set (steadyLength);
 }
 
-void SampleHoldStage::process (juce::AudioBuffer<float>& buffer, int numSamples, float amount)
+void SampleHoldStage::steer (const zembra::Chunk& chunk, float amount, float depth,
+                             const float* lfo) noexcept
 {
-    const auto numChannels = buffer.getNumChannels();
-    matchChannels (numChannels);
-    const auto step = amountToStep (amount);
-    auto* const* channels = buffer.getArrayOfWritePointers();
+    auto* const lengths = holdLength.move();
 
-    for (int i = 0; i < numSamples; ++i)
-        processSample (channels, numChannels, i, step);
-}
-
-void SampleHoldStage::process (juce::AudioBuffer<float>& buffer, int numSamples,
-                               const float* amounts)
-{
-    const auto numChannels = buffer.getNumChannels();
-    matchChannels (numChannels);
-    auto* const* channels = buffer.getArrayOfWritePointers();
-
-    for (int i = 0; i < numSamples; ++i)
-        processSample (channels, numChannels, i, amountToStep (amounts[i]));
+    for (int i = 0; i < chunk.length; ++i)
+    {
+        const auto moved = (1.0f - lfo[i] * depth) * amount;
+        const auto step = 1.0f / (moved * moved * moved * longestHold + 1.0f);
+        lengths[i] = 1.0f / step;
+    }
 }

@@ -2,7 +2,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include <juce_audio_basics/juce_audio_basics.h>
+#include "framework/dsp/Chunk.h"
+#include "framework/dsp/Control.h"
+#include "framework/dsp/SampleMath.h"
 
 #include <vector>
 
@@ -13,25 +15,62 @@
 class SampleHoldStage final
 {
 public:
+    /** The clock, and the sample that is held in each lane. */
+    template <typename Sample>
+    struct State
+    {
+        Sample counter, held;
+
+        /** The stage's formula: a sample is taken when the counter has run out, and the counter then
+            set to the length of the hold.
+        */
+        Sample process (Sample x, Sample holdLength) noexcept
+        {
+            using zembra::unlessPositive;
+            counter = counter - Sample (1.0f);
+            held = unlessPositive (counter, x, held);
+            counter = unlessPositive (counter, holdLength, counter);
+            return held;
+        }
+    };
+
+    SampleHoldStage();
+
     /** The samples per held sample less one, at full amount. */
-    void prepare (float sampleRate) noexcept { longestHold = sampleRate / 100.0f - 1.0f; }
+    void prepare (float sampleRate) noexcept;
 
     /** Lets the next sample be taken. */
     void restart() noexcept { counter = 1.0f; }
 
-    /** Holds a whole block by one amount, 0 to 1. */
-    void process (juce::AudioBuffer<float>& buffer, int numSamples, float amount);
+    /** Takes on the number of channels. When there are more than before, all that is held is
+        forgotten. Allocates beyond eight.
+    */
+    void matchChannels (int numChannels);
 
-    /** Holds a block by an amount per sample, 0 to 1. Allocates when channels were added. */
-    void process (juce::AudioBuffer<float>& buffer, int numSamples, const float* amounts);
+    /** Steers a chunk by one amount, 0 to 1. */
+    void steer (float amount) noexcept;
+
+    /** Steers a chunk by an amount that the LFO lowers, sample by sample. */
+    void steer (const zembra::Chunk& chunk, float amount, float depth, const float* lfo) noexcept;
+
+    zembra::Control& getHoldLength() noexcept { return holdLength; }
+
+    /** True while every sample passes. */
+    bool isTransparent() const noexcept
+    {
+        return ! holdLength.isMoving() && holdLength.getValue() == 1.0f && counter <= 1.0f;
+    }
+
+    float getCounter() const noexcept { return counter; }
+    void setCounter (float newCounter) noexcept { counter = newCounter; }
+    float& getHeld (int channel) noexcept { return held[static_cast<size_t> (channel)]; }
 
 private:
-    float amountToStep (float amount) const noexcept;
-    void matchChannels (int numChannels);
-    void processSample (float* const* channels, int numChannels, int index, float step) noexcept;
-
+    zembra::Control holdLength;
     float longestHold = 0.0f;
+    float steadyAmount = -1.0f;
+    float steadyLength = 1.0f;
     float counter = 1.0f;
-    std::vector<float> held = std::vector<float> (1);
+    std::vector<float> held;
     size_t numHeldChannels = 1;
 };

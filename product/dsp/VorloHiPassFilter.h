@@ -14,22 +14,24 @@ class VorloHiPassFilter final : public zembra::ZembraFilter
 public:
     VorloHiPassFilter();
 
-    void prepare (float sampleRate, int blockSize) override;
-    void reset() override { state = {}; }
-    void process (float* samples, int numSamples) override;
-
-    float process (float x) override
+    /** The filter's formula. */
+    template <typename Sample>
+    static Sample process (Sample x, const LadderTuning<Sample>& tuning, LadderState<Sample>& state,
+                           const zembra::SoftClipper& clipper) noexcept
     {
-        const auto g = coefficients.g;
-        const auto b = coefficients.b;
-        const auto k = coefficients.feedback;
-        const auto h = 1.0f - g;
+        const auto g = tuning.g;
+        const auto b = tuning.b;
+        const auto h = Sample (1.0f) - g;
         auto& [s1, s2, s3, s4] = state;
 
-        const auto v = x * coefficients.inputGain;
-        const auto y = ((((h * v - s1) * h - s2) * h - s3) * h - s4) / (h * h * h * h * k + 1.0f);
+        // What a steady feedback comes to is worked out once, before a loop.
+        const auto outputGain = tuning.feedback + Sample (1.0f);
+        const auto inputGain = Sample (1.0f) / outputGain;
 
-        const auto e1 = v - k * y;
+        const auto v = x * inputGain;
+        const auto y = ((((h * v - s1) * h - s2) * h - s3) * h - s4) / tuning.estimate;
+
+        const auto e1 = v - tuning.feedback * y;
         const auto u1 = g * e1;
         const auto l1 = u1 + s1;
         s1 = clipper.clip (u1 - b * l1);
@@ -47,17 +49,44 @@ public:
         const auto e4 = e3 - l3;
         const auto u4 = g * e4;
         s4 = u4 - (u4 + s4) * b;
-        return y * coefficients.outputGain;
+        return y * outputGain;
     }
 
+    void prepare (float sampleRate, int blockSize) override;
+    void reset() override { state = {}; }
+    void process (float* samples, int numSamples) override;
+
+    float process (float x) override { return process (x, coefficients.tuning, state, clipper); }
+
     /** Sets the cutoff in Hz, at least 2; above half the sample rate that is taken instead. */
-    void setCutoff (float cutoff) noexcept { coefficients.setCutoff (cutoff); }
+    void setCutoff (float cutoff) noexcept
+    {
+        if (coefficients.setCutoff (cutoff))
+            updateEstimate();
+    }
 
     /** Sets the resonance, 0 to 1: at 1 just on the edge of self-oscillation. */
-    void setResonance (float resonance) noexcept { coefficients.setResonance (resonance); }
+    void setResonance (float resonance) noexcept
+    {
+        if (coefficients.setResonance (resonance))
+            updateEstimate();
+    }
+
+    /** Writes the tunings for moving cutoffs, in Hz, and resonances, fast and not quite exactly. */
+    void trace (const float* cutoffs, const float* resonances, int numSamples,
+                LadderTuning<zembra::Control>& controls) noexcept;
+
+    const LadderTuning<float>& getTuning() const noexcept { return coefficients.tuning; }
+    LadderState<float>& getState() noexcept { return state; }
+    const zembra::SoftClipper& getClipper() const noexcept { return clipper; }
+
+    /** Takes another channel's tuning over. */
+    void tuneLike (const VorloHiPassFilter& other) noexcept { coefficients = other.coefficients; }
 
 private:
+    void updateEstimate() noexcept;
+
     LadderCoefficients coefficients;
-    LadderState state;
+    LadderState<float> state;
     zembra::SoftClipper clipper;
 };

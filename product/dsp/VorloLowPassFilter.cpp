@@ -15,17 +15,37 @@ void VorloLowPassFilter::prepare (float sampleRate, int)
 
 void VorloLowPassFilter::updateEstimate() noexcept
 {
-    g4 = std::pow (coefficients.g, 4.0f);
+    g4 = std::pow (coefficients.tuning.g, 4.0f);
     updateEstimateScale();
 }
 
 void VorloLowPassFilter::updateEstimateScale() noexcept
 {
-    estimateScale = 1.0f / (g4 * coefficients.feedback + 1.0f);
+    coefficients.tuning.estimate = 1.0f / (g4 * coefficients.tuning.feedback + 1.0f);
+}
+
+void VorloLowPassFilter::trace (const float* cutoffs, const float* resonances, int numSamples,
+                                LadderTuning<zembra::Control>& controls) noexcept
+{
+    coefficients.trace (cutoffs, resonances, numSamples, controls);
+    const auto* const g = controls.g.getCurve();
+    const auto* const feedback = controls.feedback.getCurve();
+    auto* const estimate = controls.estimate.move();
+
+    for (int i = 0; i < numSamples; ++i)
+    {
+        const auto g2 = g[i] * g[i];
+        estimate[i] = 1.0f / (g2 * g2 * feedback[i] + 1.0f);
+    }
 }
 
 void VorloLowPassFilter::process (float* samples, int numSamples)
 {
+    const auto tuning = coefficients.tuning;
+    auto moved = state;
+
     for (int i = 0; i < numSamples; ++i)
-        samples[i] = process (samples[i]);
+        samples[i] = process (samples[i], tuning, moved, clipper);
+
+    state = moved;
 }

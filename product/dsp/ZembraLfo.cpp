@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "product/dsp/ZembraLfo.h"
 
+#include <algorithm>
 #include <cmath>
 
 namespace
@@ -70,7 +71,11 @@ void ZembraLfo::prepare (float newSampleRate) noexcept
 
 void ZembraLfo::updateIncrement() noexcept
 {
-    phaseIncrement = static_cast<double> (rate * static_cast<float> (numPoints) / sampleRate);
+    const auto perSample = rate * static_cast<float> (numPoints) / sampleRate;
+
+    // A wild tempo may ask for more than a period per sample, and for no number at all.
+    phaseIncrement =
+        std::isfinite (perSample) ? std::fmod (static_cast<double> (perSample), numPoints) : 0.0;
 }
 
 void ZembraLfo::setWaveform (int newWaveform) noexcept
@@ -128,45 +133,46 @@ void ZembraLfo::setPosition (float fractionOfPeriod) noexcept
 
 void ZembraLfo::fill (float* out, int numSamples) noexcept
 {
+    auto* const end = out + numSamples;
+
     if (waveform == random)
-        for (int i = 0; i < numSamples; ++i)
-            out[i] = randomValue.next();
+        std::generate (out, end, [this] { return randomValue.next(); });
     else
-        for (int i = 0; i < numSamples; ++i)
-            out[i] = next();
+        fillFromTable (fillGlide (out, end), end);
 }
 
-float ZembraLfo::next() noexcept
+float* ZembraLfo::fillGlide (float* out, const float* end) noexcept
 {
-    if (lastRate == 0.0f)
-        return ramp.next();
-
-    if (rampingIn)
+    for (; out != end && (lastRate == 0.0f || rampingIn); ++out)
     {
-        const auto value = ramp.next();
-        rampingIn = value != lastOutput;
-        return value;
+        *out = ramp.next();
+        rampingIn = rampingIn && (lastRate == 0.0f || *out != lastOutput);
     }
 
-    return nextFromTable();
+    return out;
 }
 
-float ZembraLfo::nextFromTable() noexcept
+void ZembraLfo::fillFromTable (float* out, const float* end) noexcept
 {
-    const auto index = static_cast<size_t> (phase);
-    const auto fraction = phase - std::floor (phase);
-    phase += phaseIncrement;
+    if (out == end)
+        return;
 
-    if (phase >= numPoints)
-        phase -= numPoints;
+    const auto* const points = table->points.data();
+    const auto* const deltas = table->deltas.data();
+    const auto increment = phaseIncrement;
+    auto position = phase;
 
-    // Only a rate beyond the sample rate gets here.
-    if (phase >= numPoints)
-        phase = std::fmod (phase, static_cast<double> (numPoints));
+    for (; out != end; ++out)
+    {
+        const auto index = static_cast<int> (position);
+        const auto fraction = static_cast<float> (position - static_cast<double> (index));
+        *out = fraction * deltas[index] + points[index];
+        position += increment;
+        position = position >= numPoints ? position - numPoints : position;
+    }
 
-    lastOutput = static_cast<float> (fraction * static_cast<double> (table->deltas[index])
-                                     + static_cast<double> (table->points[index]));
-    return lastOutput;
+    phase = position;
+    lastOutput = out[-1];
 }
 
 void ZembraLfo::Ramp::setTarget (float newTarget) noexcept

@@ -70,8 +70,8 @@ private:
 
     void stop() noexcept;
     void start() noexcept;
-    float next() noexcept;
-    float nextFromTable() noexcept;
+    float* fillGlide (float* out, const float* end) noexcept;
+    void fillFromTable (float* out, const float* end) noexcept;
     void updateIncrement() noexcept;
 
     const std::array<WaveTable, numTableWaves>& tables = getTables();
