@@ -143,12 +143,8 @@ public:
     /** The editor's size in pixels, -1 until an editor or a project has set it. [any thread] */
     int getPluginEditorWidth() const noexcept { return pluginEditorWidth; }
     int getPluginEditorHeight() const noexcept { return pluginEditorHeight; }
-    void setPluginEditorSize (int width, int height) noexcept
-    {
-        pluginEditorWidth = width;
-        pluginEditorHeight = height;
-    }
-
+    void setPluginEditorWidth (int width) noexcept { pluginEditorWidth = width; }
+    void setPluginEditorHeight (int height) noexcept { pluginEditorHeight = height; }
     const ProductInfo& getProductInfo() const noexcept { return info; }
     const FolderRoots& getFolderRoots() const noexcept { return folderRoots; }
     const juce::String& getCompanyName() const noexcept { return info.companyName; }

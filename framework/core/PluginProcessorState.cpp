@@ -70,8 +70,8 @@ void PluginProcessor::setStateInformation (const void* data, int sizeInBytes)
     if (root == nullptr || ! root->getTagName().equalsIgnoreCase (getName()))
         return;
 
-    setPluginEditorSize (XmlReader::getInt (*root, "pluginEditorWidth", -1),
-                         XmlReader::getInt (*root, "pluginEditorHeight", -1));
+    setPluginEditorWidth (XmlReader::getInt (*root, "pluginEditorWidth", -1));
+    setPluginEditorHeight (XmlReader::getInt (*root, "pluginEditorHeight", -1));
     setMidiEnabled (root->getBoolAttribute ("isMidiEnabled", false));
     setMidiProgramChangeEnabled (root->getBoolAttribute ("isMidiProgramChangeEnabled", false));
     setMidiChannel (XmlReader::getInt (*root, "ccMidiChan", 0));

@@ -188,7 +188,8 @@ bool PluginEditor::keyPressed (const juce::KeyPress& key)
 void PluginEditor::sizeAccepted()
 {
     juce::PopupMenu::dismissAllActiveMenus();
-    pluginProcessor.setPluginEditorSize (getWidth(), getHeight());
+    pluginProcessor.setPluginEditorWidth (getWidth());
+    pluginProcessor.setPluginEditorHeight (getHeight());
     dialogsHolder->refreshBounds();
     windowsLookAndFeel.setReferenceHeight (getHeight());
     aboutAndPrefsLookAndFeel.setReferenceHeight (getHeight());

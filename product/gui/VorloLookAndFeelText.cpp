@@ -17,7 +17,7 @@ const juce::Slider* findKnobAround (const juce::Label& label)
     with a unit and without one, so that the knobs of a row line up.
 */
 void drawKnobValue (juce::Graphics& g, const juce::String& text, juce::Rectangle<float> area,
-                    const juce::Font& font)
+                    const juce::Font& font, juce::Colour colour)
 {
     const auto split = text.lastIndexOfChar (' ');
     const auto number = split < 0 ? text : text.substring (0, split);
@@ -27,8 +27,9 @@ void drawKnobValue (juce::Graphics& g, const juce::String& text, juce::Rectangle
     const auto numberArea = area.withSizeKeepingCentre (area.getWidth(), font.getHeight())
                                 .translated (0.0f, -0.38f * font.getHeight());
     const auto unitArea = numberArea.translated (0.0f, 0.88f * font.getHeight());
+    g.setColour (colour);
     zembra::drawTextThatFits (g, number, numberArea, font, juce::Justification::centred);
-    g.setOpacity (0.65f);
+    g.setColour (colour.withMultipliedAlpha (0.65f));
     zembra::drawTextThatFits (g, unit, unitArea, unitFont, juce::Justification::centred);
 }
 
@@ -53,13 +54,17 @@ void VorloLookAndFeel::drawLabel (juce::Graphics& g, juce::Label& label)
         return;
 
     const auto area = label.getLocalBounds().toFloat();
-    g.setColour (getStateColour (label, juce::Label::textColourId));
+    const auto colour = getStateColour (label, juce::Label::textColourId);
 
     if (findKnobAround (label) != nullptr)
-        drawKnobValue (g, label.getText(), area, getLabelFont (label));
-    else
-        zembra::drawTextThatFits (g, label.getText(), area, getLabelFont (label),
-                                  label.getJustificationType());
+    {
+        drawKnobValue (g, label.getText(), area, getLabelFont (label), colour);
+        return;
+    }
+
+    g.setColour (colour);
+    zembra::drawTextThatFits (g, label.getText(), area, getLabelFont (label),
+                              label.getJustificationType());
 }
 
 juce::Font VorloLookAndFeel::getPopupMenuFont()

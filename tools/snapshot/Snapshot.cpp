@@ -4,6 +4,11 @@
 
 #include "framework/gui/PluginEditor.h"
 
+namespace
+{
+constexpr auto midiLearn = "midi-learn";
+} // namespace
+
 Snapshot::Snapshot (SnapshotOptions optionsToUse)
     : options (std::move (optionsToUse)),
       processor (zembra::FolderRoots::inside (home.getFile()))
@@ -37,28 +42,24 @@ juce::String Snapshot::applySettings()
     return {};
 }
 
-juce::String Snapshot::show()
-{
-    if (options.dialog == "midi-learn")
-        dynamic_cast<zembra::PluginEditor&> (*editor).setMidiLearnMode (true);
-    else if (options.dialog.isNotEmpty())
-        return "there is no dialog \"" + options.dialog + "\"; known: midi-learn";
-
-    return {};
-}
-
 juce::String Snapshot::open()
 {
+    if (options.dialog.isNotEmpty() && options.dialog != midiLearn)
+        return "there is no dialog \"" + options.dialog + "\"; known: " + midiLearn;
+
     if (auto fault = applySettings(); fault.isNotEmpty())
         return fault;
 
     editor.reset (processor.createEditor());
     editor->setSize (options.width, options.height);
-    return show();
+    return {};
 }
 
 juce::Image Snapshot::paint()
 {
+    if (options.dialog == midiLearn)
+        dynamic_cast<zembra::PluginEditor&> (*editor).setMidiLearnMode (true);
+
     return editor->createComponentSnapshot (editor->getLocalBounds(), true, options.scale);
 }
 

@@ -24,7 +24,7 @@ public:
     */
     juce::String open();
 
-    /** The editor's picture. */
+    /** Shows what the options name over the editor, and paints it. */
     juce::Image paint();
 
     VorloProcessor& getProcessor() noexcept { return processor; }
@@ -36,7 +36,6 @@ public:
 
 private:
     juce::String applySettings();
-    juce::String show();
 
     const SnapshotOptions options;
     const juce::TemporaryFile home; ///< a folder that nothing is ever written to

@@ -101,6 +101,9 @@ void TwoValueFader::sliderDragStarted (juce::Slider*)
 
 void TwoValueFader::sliderDragEnded (juce::Slider*)
 {
+    // Thumbs report their moves a moment later; the last one belongs into the gesture too.
+    sliderValueChanged (&slider);
+
     if (auto* const param = std::exchange (dragged, nullptr))
         endGesture (*param);
 }

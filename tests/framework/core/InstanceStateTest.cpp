@@ -71,7 +71,7 @@ TEST_F (InstanceStateTest, HasItsExactForm)
     processor->getParamSet().getParam (juce::String ("wet"))->changeFrozen (true);
     processor->getPreferencesStateManager().getValues().set ("key", "text");
     processor->getPreferencesStateManager().getValues().set ("not a name", "lost");
-    processor->setPluginEditorSize (750, -1);
+    processor->setPluginEditorWidth (750);
     processor->setMidiChannel (3);
     const auto text = toText (save (*processor));
     const auto element = [&text] (const juce::String& tag)
@@ -101,7 +101,7 @@ TEST_F (InstanceStateTest, ComesBackInAnotherInstance)
     processor->getParamsMidiMapper().setMapping (7, "crush");
     ASSERT_TRUE (processor->getMidiPresetFileManager().savePresetToFile (map));
     processor->getParamSet().getParam (juce::String ("drive"))->changeFrozen (true);
-    processor->setPluginEditorSize (-1, 400);
+    processor->setPluginEditorHeight (400);
     processor->setMidiEnabled (true);
     processor->setMidiProgramChangeEnabled (true);
     processor->setMidiChannel (16);

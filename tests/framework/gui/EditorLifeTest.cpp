@@ -98,7 +98,8 @@ TEST (EditorLife, ManyOpeningsUnderLoadLeaveNothingBehind)
 TEST (EditorLife, SizeIsKeptBetweenOpenings)
 {
     TestProcessor vorlo;
-    vorlo.processor.setPluginEditorSize (0, 0);
+    vorlo.processor.setPluginEditorWidth (0);
+    vorlo.processor.setPluginEditorHeight (0);
     auto editor = openEditor (vorlo.processor);
     EXPECT_EQ (editor->getWidth(), 750);
     EXPECT_EQ (editor->getHeight(), 316);
