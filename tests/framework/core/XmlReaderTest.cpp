@@ -40,7 +40,10 @@ std::string makeAttributes (int count)
 
 std::string nest (int depth) { return repeat ("<a>", depth) + repeat ("</a>", depth); }
 
-bool accepts (const std::string& text) { return XmlReader::parse (std::string_view (text)) != nullptr; }
+bool accepts (const std::string& text)
+{
+    return XmlReader::parse (std::string_view (text)) != nullptr;
+}
 
 TEST (XmlReader, RefusesWhatIsNoPlainWellFormedDocument)
 {
