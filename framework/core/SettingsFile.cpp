@@ -142,7 +142,7 @@ void SettingsFile::add (Edit edit)
 
 void SettingsFile::timerCallback()
 {
-    constexpr int shortWait = 200, pauseBeforeRetry = 2000;
+    constexpr int shortWait = 200, pauseBeforeRetry = 10000;
 
     if (! flush (shortWait))
         startTimer (pauseBeforeRetry);
