@@ -240,6 +240,15 @@ TEST (XmlReader, ClampsWholeNumbers)
     EXPECT_EQ (XmlReader::getInt (element, "y", 5), 5);
 }
 
+TEST (XmlWriter, DropsTextBesideElements)
+{
+    auto tree = XmlReader::parse (std::string_view ("<a><b>one</b>two<c><d/></c></a>"));
+    ASSERT_NE (tree, nullptr);
+    EXPECT_EQ (
+        XmlWriter::toText (*tree, juce::XmlElement::TextFormat().singleLine().withoutHeader()),
+        "<a><b>one</b><c><d/></c></a>");
+}
+
 TEST (XmlWriter, WritesNothingThatTheReaderWouldRefuse)
 {
     for (int code = 1; code <= 0x110000;
