@@ -11,10 +11,19 @@
 namespace zembra
 {
 
+namespace
+{
+
+/** One for all files: there is one settings file, and what is done under the lock is short. */
+std::mutex processMutex;
+
+} // namespace
+
 #if JUCE_WINDOWS
 
 FileLock::FileLock (const juce::File& file, int timeoutMilliseconds)
-    : lock (file.getFullPathName().replaceCharacters ("\\/:", "___"))
+    : turn (processMutex),
+      lock (file.getFullPathName().replaceCharacters ("\\/:", "___"))
 {
     held = lock.enter (timeoutMilliseconds);
 }
@@ -27,7 +36,7 @@ FileLock::~FileLock()
 
 #else
 
-FileLock::FileLock (const juce::File& file, int timeoutMilliseconds)
+FileLock::FileLock (const juce::File& file, int timeoutMilliseconds) : turn (processMutex)
 {
     const auto lockFile = file.getSiblingFile ("." + file.getFileName() + ".lock");
     descriptor =

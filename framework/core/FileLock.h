@@ -4,6 +4,8 @@
 
 #include <juce_core/juce_core.h>
 
+#include <mutex>
+
 namespace zembra
 {
 
@@ -16,7 +18,9 @@ namespace zembra
 class FileLock final
 {
 public:
-    /** Waits for the lock, at most so long. The lock file is a hidden one beside `file`. */
+    /** Waits for the lock: inside the process until its turn comes, for other processes at most so
+        long. The lock file is a hidden one beside `file`. A thread holds one at a time.
+    */
     FileLock (const juce::File& file, int timeoutMilliseconds);
     ~FileLock();
 
@@ -24,6 +28,7 @@ public:
     bool isHeld() const noexcept { return held; }
 
 private:
+    const std::scoped_lock<std::mutex> turn; ///< waiting threads of this process needn't poll
 #if JUCE_WINDOWS
     juce::InterProcessLock lock;
 #else

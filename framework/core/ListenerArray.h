@@ -25,6 +25,9 @@ namespace zembra
     call (the "hazard pointers" of M. Michael, 2004). remove() replaces the array and then waits until
     no other thread is inside that listener: when it returns, the listener can be deleted. Arrays
     that went out of use are freed when nobody is telling the list.
+
+    Since remove() may wait for a thread inside a listener, a listener never waits for a thread that
+    removes listeners, which here means the message thread.
 */
 template <typename ListenerClass>
 class ListenerArray

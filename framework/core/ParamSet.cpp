@@ -18,7 +18,7 @@ namespace
 */
 double getFloatAttribute (const juce::XmlElement& element, const juce::String& id, double fallback)
 {
-    constexpr double limit = std::numeric_limits<float>::max();
+    constexpr auto limit = static_cast<double> (std::numeric_limits<float>::max());
     const auto number = XmlReader::getNumber (element, id, fallback);
     return static_cast<double> (static_cast<float> (std::clamp (number, -limit, limit)));
 }

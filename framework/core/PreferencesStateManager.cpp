@@ -17,8 +17,16 @@ void PreferencesStateManager::saveToXml (juce::XmlElement& element)
 
 void PreferencesStateManager::loadFromXml (const juce::XmlElement& element)
 {
+    constexpr int maxKeys = 256, maxLength = 1024;
+
     for (int i = 0; i < element.getNumAttributes(); ++i)
-        values.set (element.getAttributeName (i), element.getAttributeValue (i));
+    {
+        const auto& key = element.getAttributeName (i);
+        const auto& text = element.getAttributeValue (i);
+
+        if (text.length() <= maxLength && (values.size() < maxKeys || values.containsKey (key)))
+            values.set (key, text);
+    }
 }
 
 } // namespace zembra

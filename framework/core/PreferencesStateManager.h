@@ -15,7 +15,10 @@ public:
 
     void saveToXml (juce::XmlElement& element) override;
 
-    /** Known keys get the element's values, new ones are appended, absent ones stay. */
+    /** Known keys get the element's values, new ones are appended, absent ones stay. What foreign
+        projects bring can't make the state grow without end: beyond 256 keys nothing is appended,
+        and texts above 1,024 characters are left out.
+    */
     void loadFromXml (const juce::XmlElement& element) override;
 
     /** The keys, which compare without case, and their values. [message thread] */

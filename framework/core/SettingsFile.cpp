@@ -95,11 +95,7 @@ SettingsFile::SettingsFile (const juce::File& fileToUse, int delayMilliseconds)
         values = std::move (*stored);
 }
 
-SettingsFile::~SettingsFile()
-{
-    stopTimer();
-    flush();
-}
+SettingsFile::~SettingsFile() { flush (30000); }
 
 juce::String SettingsFile::getValue (const juce::String& key,
                                      const juce::String& defaultValue) const
@@ -144,19 +140,23 @@ void SettingsFile::add (Edit edit)
         startTimer (delay);
 }
 
-void SettingsFile::timerCallback() { flush(); }
+void SettingsFile::timerCallback()
+{
+    constexpr int shortWait = 200, pauseBeforeRetry = 10000;
 
-bool SettingsFile::flush()
+    if (! flush (shortWait))
+        startTimer (pauseBeforeRetry);
+}
+
+bool SettingsFile::flush (int longestWaitMilliseconds)
 {
     stopTimer();
     const std::scoped_lock lock (mutex);
-    return pending.empty() || writeEdits();
+    return pending.empty() || writeEdits (longestWaitMilliseconds);
 }
 
-bool SettingsFile::writeEdits()
+bool SettingsFile::writeEdits (int longestWaitMilliseconds)
 {
-    constexpr int longestWaitMilliseconds = 5000;
-
     if (! file.getParentDirectory().createDirectory())
         return false;
 

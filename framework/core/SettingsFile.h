@@ -48,8 +48,11 @@ public:
     void setChild (const juce::String& key, const juce::String& rootTag,
                    const juce::XmlElement& child);
 
-    /** Writes what is pending; false if that can't be done, and then it stays pending. */
-    bool flush();
+    /** Writes what is pending; false if that can't be done, and then it stays pending. Waits a few
+        seconds for other processes, the destructor half a minute, and the delayed writing, which must
+        not hold up the message thread, tries again later.
+    */
+    bool flush() { return flush (5000); }
 
 private:
     struct Edit
@@ -63,7 +66,8 @@ private:
     };
 
     void add (Edit edit);
-    bool writeEdits();
+    bool flush (int longestWaitMilliseconds);
+    bool writeEdits (int longestWaitMilliseconds);
     void timerCallback() override;
 
     const juce::File file;

@@ -44,7 +44,7 @@ public:
 private:
     struct ParserDeleter
     {
-        void operator() (XML_Parser parser) const { XML_ParserFree (parser); }
+        void operator() (XML_Parser toFree) const { XML_ParserFree (toFree); }
     };
 
     static TreeBuilder& self (void* data) { return *static_cast<TreeBuilder*> (data); }

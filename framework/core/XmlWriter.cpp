@@ -43,8 +43,21 @@ juce::String onlyLegal (const juce::String& text)
     return result.toUTF8();
 }
 
+bool hasTextBesideElements (const juce::XmlElement& element)
+{
+    auto hasText = false, hasElement = false;
+
+    for (const auto* child : element.getChildIterator())
+        (child->isTextElement() ? hasText : hasElement) = true;
+
+    return hasText && hasElement;
+}
+
 void cleanElement (juce::XmlElement& element)
 {
+    if (hasTextBesideElements (element))
+        element.deleteAllTextElements();
+
     if (element.isTextElement())
     {
         if (! isLegal (element.getText()))
@@ -60,7 +73,7 @@ void cleanElement (juce::XmlElement& element)
 
 } // namespace
 
-void XmlWriter::removeIllegalCharacters (juce::XmlElement& tree)
+void XmlWriter::makeWritable (juce::XmlElement& tree)
 {
     std::vector<juce::XmlElement*> waiting{ &tree };
 
@@ -77,7 +90,7 @@ void XmlWriter::removeIllegalCharacters (juce::XmlElement& tree)
 
 juce::String XmlWriter::toText (juce::XmlElement& tree, const juce::XmlElement::TextFormat& format)
 {
-    removeIllegalCharacters (tree);
+    makeWritable (tree);
     return tree.toString (format);
 }
 
@@ -89,7 +102,7 @@ bool XmlWriter::write (juce::XmlElement& tree, const juce::File& file)
 
 void XmlWriter::pack (juce::XmlElement& tree, juce::MemoryBlock& destination)
 {
-    removeIllegalCharacters (tree);
+    makeWritable (tree);
     juce::MemoryOutputStream output (destination, false);
     const auto text = tree.toString (juce::XmlElement::TextFormat().singleLine());
     const auto numBytes = text.getNumBytesAsUTF8();

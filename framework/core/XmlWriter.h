@@ -17,8 +17,10 @@ struct XmlWriter
     static constexpr juce::uint32 packedMagic = 0x21324356;
     static constexpr int packedHeaderBytes = 8;
 
-    /** Takes the characters out of the tree that can't be written. */
-    static void removeIllegalCharacters (juce::XmlElement& tree);
+    /** Takes out of the tree what can't be written: illegal characters, and text that stands beside
+        elements, on which JUCE's one-line writing crashes. None of our formats has such text.
+    */
+    static void makeWritable (juce::XmlElement& tree);
 
     static juce::String toText (juce::XmlElement& tree, const juce::XmlElement::TextFormat& format);
 

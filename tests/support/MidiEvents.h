@@ -6,11 +6,12 @@
 
 #include <initializer_list>
 
+using MidiMessages = std::initializer_list<std::initializer_list<juce::uint8>>;
+
 /** A block of messages given as their bytes, one sample apart, as in `{ { 0xb0, 7, 127 } }` for
     controller 7 at 127 on channel 1.
 */
-inline juce::MidiBuffer
-makeMidi (std::initializer_list<std::initializer_list<juce::uint8>> messages)
+inline juce::MidiBuffer makeMidi (MidiMessages messages)
 {
     juce::MidiBuffer midi;
 

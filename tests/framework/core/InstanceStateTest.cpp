@@ -283,6 +283,29 @@ TEST_F (InstanceStateTest, TakesNoValueOutOfRange)
     }
 }
 
+TEST_F (InstanceStateTest, DoesNotGrowWithoutEndFromForeignPreferences)
+{
+    for (int chunk = 0; chunk < 40; ++chunk)
+    {
+        juce::XmlElement root ("Vorlo");
+        auto* prefs = root.createNewChildElement ("INSTANCEPREFS");
+
+        for (int key = 0; key < 20; ++key)
+            prefs->setAttribute (juce::Identifier ("k" + juce::String (chunk * 20 + key)),
+                                 juce::String::repeatedString ("x", key * 100));
+
+        juce::MemoryBlock packed;
+        XmlWriter::pack (root, packed);
+        load (*processor, packed);
+    }
+
+    edit (*processor, "drive", 44.0);
+    const auto other = makeProcessor();
+    load (*other, save (*processor));
+    EXPECT_EQ (get (*other, "drive"), 44.0) << "the chunk can still be read";
+    EXPECT_LE (processor->getPreferencesStateManager().getValues().size(), 256);
+}
+
 TEST_F (InstanceStateTest, CarriesPathsAndWordsOfAnyKind)
 {
     const auto file = writeUser (juce::CharPointer_UTF8 ("\xe2\x99\xaa & <'\"> \xf0\x9f\x98\x80"));

@@ -40,7 +40,10 @@ std::string makeAttributes (int count)
 
 std::string nest (int depth) { return repeat ("<a>", depth) + repeat ("</a>", depth); }
 
-bool accepts (const std::string& text) { return XmlReader::parse (std::string_view (text)) != nullptr; }
+bool accepts (const std::string& text)
+{
+    return XmlReader::parse (std::string_view (text)) != nullptr;
+}
 
 TEST (XmlReader, RefusesWhatIsNoPlainWellFormedDocument)
 {
@@ -235,6 +238,15 @@ TEST (XmlReader, ClampsWholeNumbers)
     }
 
     EXPECT_EQ (XmlReader::getInt (element, "y", 5), 5);
+}
+
+TEST (XmlWriter, DropsTextBesideElements)
+{
+    auto tree = XmlReader::parse (std::string_view ("<a><b>one</b>two<c><d/></c></a>"));
+    ASSERT_NE (tree, nullptr);
+    EXPECT_EQ (
+        XmlWriter::toText (*tree, juce::XmlElement::TextFormat().singleLine().withoutHeader()),
+        "<a><b>one</b><c><d/></c></a>");
 }
 
 TEST (XmlWriter, WritesNothingThatTheReaderWouldRefuse)

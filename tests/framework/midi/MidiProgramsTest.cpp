@@ -14,8 +14,6 @@
 namespace
 {
 
-using Messages = std::initializer_list<std::initializer_list<juce::uint8>>;
-
 class MidiProgramsTest : public testing::Test
 {
 protected:
@@ -42,7 +40,7 @@ protected:
         return processor;
     }
 
-    static void play (VorloProcessor& processor, Messages messages)
+    static void play (VorloProcessor& processor, MidiMessages messages)
     {
         auto midi = makeMidi (messages);
         juce::AudioBuffer<float> buffer (2, 64);
