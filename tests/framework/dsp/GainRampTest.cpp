@@ -24,7 +24,9 @@ TEST (GainRampTest, IsLinearOver256SamplesOfALongBlock)
     const auto gains = apply (ramp, 1000, 0.5f);
 
     for (int i = 0; i < 1000; ++i)
-        EXPECT_NEAR (gains.getSample (0, i), i < 256 ? 1.0f - 0.5f * static_cast<float> (i) / 256.0f : 0.5f, 1e-5f) << i;
+        EXPECT_NEAR (gains.getSample (0, i),
+                     i < 256 ? 1.0f - 0.5f * static_cast<float> (i) / 256.0f : 0.5f, 1e-5f)
+            << i;
 }
 
 TEST (GainRampTest, CoversAShareOfTheWayInAShortBlock)
