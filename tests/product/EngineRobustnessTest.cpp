@@ -1,5 +1,6 @@
 // What no host should do, and some do: the engine carries on.
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "tests/support/AllocationCount.h"
 #include "tests/support/Signals.h"
 #include "tests/support/TestProcessor.h"
 
@@ -134,6 +135,29 @@ TEST_F (EngineRobustnessTest, SilentDryPathKeepsAnInfinityOut)
         auto buffer = signals::makeConstant (2, 256, block == 2 ? infinity : 0.1f);
         tested.process (buffer);
         EXPECT_TRUE (isSound (buffer)) << "block " << block;
+    }
+}
+
+TEST_F (EngineRobustnessTest, AllocatesNothingWhileItProcesses)
+{
+    if (getNumAllocations() < 0)
+        GTEST_SKIP() << "allocations can't be counted here";
+
+    const auto before = getNumAllocations();
+    const auto owned = std::make_unique<juce::Uuid>(); // the counter itself is tried
+    ASSERT_GT (getNumAllocations(), before) << owned->toString();
+
+    prepare (48000.0, 512);
+    auto buffer = signals::makeBusySignal (2, 512, 0.9f);
+    juce::MidiBuffer midi;
+
+    for (int block = 0; block < 500; ++block)
+    {
+        randomise (tested);
+        juce::AudioBuffer<float> part (buffer.getArrayOfWritePointers(), 2, random.nextInt (513));
+        const auto allocated = getNumAllocations();
+        tested.processor.processBlock (part, midi);
+        ASSERT_EQ (getNumAllocations(), allocated) << "block " << block;
     }
 }
 
