@@ -140,7 +140,10 @@ void VorloProcessor::prepareToPlay (double newSampleRate, int maximumBlockSize)
 {
     numInputs = getTotalNumInputChannels();
     numOutputs = getTotalNumOutputChannels();
-    const auto rate = newSampleRate > 1.0 ? static_cast<float> (newSampleRate) : 1.0f;
+    // A rate that is no number is taken for the lowest, too.
+    constexpr double highestRate = 1e7;
+    const auto rate =
+        newSampleRate > 1.0 ? static_cast<float> (std::min (newSampleRate, highestRate)) : 1.0f;
 
     if (maximumBlockSize > blockCapacity)
     {

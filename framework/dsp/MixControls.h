@@ -12,11 +12,13 @@ struct MixControls
 {
     Control dry, wet;
 
-    template <typename Function>
-    void forEach (Function&& function)
+    bool isMoving() const noexcept { return dry.isMoving() || wet.isMoving(); }
+
+    /** Gives both a curve if only one has one. */
+    void spread (int numFrames) noexcept
     {
-        function (dry);
-        function (wet);
+        dry.spread (numFrames);
+        wet.spread (numFrames);
     }
 
     template <typename Sample>

@@ -7,10 +7,12 @@
 #include <cstring>
 #include <new>
 
-#if defined(__GNUC__)
+#if ! defined(ZEMBRA_HAS_VECTOR_FRAMES)
+#if defined(__GNUC__) // Clang too
 #define ZEMBRA_HAS_VECTOR_FRAMES 1
 #else
 #define ZEMBRA_HAS_VECTOR_FRAMES 0
+#endif
 #endif
 
 #if defined(__SSE2__)

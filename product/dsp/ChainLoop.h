@@ -4,6 +4,12 @@
 
 #include "product/dsp/ChainParts.h"
 
+#if defined(__GNUC__)
+#define VORLO_FLATTEN [[gnu::flatten]]
+#else
+#define VORLO_FLATTEN
+#endif
+
 /** Runs the stages over a pair of channels in one go.
 
     A ladder's feedback is a chain of operations, some ninety clock cycles long, that must be waited
@@ -80,9 +86,6 @@ private:
 
         if (stages.filter != nullptr)
             stages.filter->getTuning().forEach (function);
-
-        if (stages.mix != nullptr)
-            stages.mix->forEach (function);
     }
 
     // What is to be compiled for is chosen one by one, and the loop then run with all of it.
@@ -106,20 +109,30 @@ private:
     {
         using LowPass = typename Parts::template Ladder<Reader, VorloLowPassFilter>;
         using HiPass = typename Parts::template Ladder<Reader, VorloHiPassFilter>;
-        using Mix = typename Parts::template Mix<Reader>;
 
         if (stages.mix == nullptr)
             return loop<Reader, Hold, Drive, typename Parts::NoFilter, typename Parts::NoMix>();
         if (stages.filter == nullptr)
-            return loop<Reader, Hold, Drive, typename Parts::NoFilter, Mix>();
+            return withMix<Reader, Hold, Drive, typename Parts::NoFilter>();
         if (stages.filter->getType() == FilterStage::lowPass)
-            return loop<Reader, Hold, Drive, LowPass, Mix>();
+            return withMix<Reader, Hold, Drive, LowPass>();
 
-        return loop<Reader, Hold, Drive, HiPass, Mix>();
+        return withMix<Reader, Hold, Drive, HiPass>();
     }
 
+    template <typename Reader, typename Hold, typename Drive, typename Filter>
+    float withMix()
+    {
+        if (! stages.mix->isMoving())
+            return loop<Reader, Hold, Drive, Filter, typename Parts::template Mix<Steady>>();
+
+        stages.mix->spread (numSamples);
+        return loop<Reader, Hold, Drive, Filter, typename Parts::template Mix<Moving>>();
+    }
+
+    // All parts are inlined: a call would send what they keep in registers through memory.
     template <typename Reader, typename Hold, typename Drive, typename Filter, typename Mix>
-    float loop()
+    VORLO_FLATTEN float loop()
     {
         Drive drive (stages.drive);
         const typename Parts::template Crush<Reader> crush (stages.crush);

@@ -41,11 +41,13 @@ void DriveStage::steer (const zembra::Chunk& chunk, float newAmount) noexcept
 void DriveStage::steer (const zembra::Chunk& chunk, float newAmount, float depth,
                         const float* lfo) noexcept
 {
+    const auto reach = newAmount * depth;
+    auto* const out = targets.data();
+
     for (int i = 0; i < chunk.length; ++i)
     {
-        const auto pulled = newAmount - lfo[i] * (newAmount * depth);
-        targets[static_cast<size_t> (i)] = { zembra::fastExp2 (4.0f * pulled), 1.0f - pulled,
-                                             pulled, 0.0f };
+        const auto pulled = newAmount - lfo[i] * reach;
+        out[i] = { zembra::fastExp2 (4.0f * pulled), 1.0f - pulled, pulled, pulled };
     }
 
     mode = Mode::pulled;

@@ -43,6 +43,13 @@ void FilterStage::begin (const Settings& newSettings)
         filter.setActive (settings.enabled);
         filter.select (settings.type);
     }
+
+    // A filter that is off takes new targets for both types, and lets nothing glide.
+    for (size_t type = 0; ! settings.enabled && type < smoothers.size(); ++type)
+    {
+        smoothers[type].freq.setTarget (settings.freq[type]);
+        smoothers[type].res.setTarget (settings.res[type]);
+    }
 }
 
 bool FilterStage::isOff (int numChannels) const noexcept
@@ -197,12 +204,6 @@ void FilterStage::processChunk (Filter& filter, zembra::SwitchableFilter& owner,
 
 void FilterStage::processOff (juce::AudioBuffer<float>& buffer, int numChannels)
 {
-    for (size_t type = 0; type < smoothers.size(); ++type)
-    {
-        smoothers[type].freq.setTarget (settings.freq[type]);
-        smoothers[type].res.setTarget (settings.res[type]);
-    }
-
     for (int channel = 0; channel < numChannels; ++channel)
         filters[static_cast<size_t> (channel)].process (buffer.getWritePointer (channel),
                                                         buffer.getNumSamples());

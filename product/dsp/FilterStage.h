@@ -60,7 +60,7 @@ public:
     /** Lets the fade of switching on go by, which isn't heard. */
     void skipFade (int numChannels, int numSamples) noexcept;
 
-    /** After the chain's loop has run one channel alone or both: nothing else needs to be told. */
+    // What the chain's loop runs the selected ladders with.
     int getType() const noexcept { return settings.type; }
     LadderTuning<zembra::Control>& getTuning() noexcept { return tuning; }
     LadderState<float>& getState (int channel) noexcept;

@@ -51,8 +51,12 @@ void LadderCoefficients::trace (const float* cutoffs, const float* resonances, i
     for (int i = 0; i < numSamples; ++i)
         feedback[i] = resonances[i] * highestFeedback;
 
-    constexpr float unknown = -1.0f;
-    targetCutoff = cutoffs[numSamples - 1];
-    cutoff = unknown;
-    setResonance (resonances[numSamples - 1]);
+    // Where the curves end the filter stands; but no cutoff will be equal to this one.
+    constexpr float inexact = -1.0f;
+    const auto last = numSamples - 1;
+    targetCutoff = cutoffs[last];
+    cutoff = inexact;
+    tuning.g = g[last];
+    tuning.b = b[last];
+    setResonance (resonances[last]);
 }

@@ -39,6 +39,8 @@ void VorloHiPassFilter::trace (const float* cutoffs, const float* resonances, in
 
     for (int i = 0; i < numSamples; ++i)
         estimate[i] = getDivisor (g[i], feedback[i]);
+
+    coefficients.tuning.estimate = estimate[numSamples - 1];
 }
 
 void VorloHiPassFilter::process (float* samples, int numSamples)

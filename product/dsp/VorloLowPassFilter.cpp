@@ -37,6 +37,8 @@ void VorloLowPassFilter::trace (const float* cutoffs, const float* resonances, i
         const auto g2 = g[i] * g[i];
         estimate[i] = 1.0f / (g2 * g2 * feedback[i] + 1.0f);
     }
+
+    coefficients.tuning.estimate = estimate[numSamples - 1];
 }
 
 void VorloLowPassFilter::process (float* samples, int numSamples)

@@ -338,4 +338,63 @@ TEST (SoundTest, AgreesForAnyLayoutAndBlockSize)
     }
 }
 
+/** Long runs in which everything moves all the time: sizes, knobs, switches, in all layouts. */
+TEST (SoundTest, AgreesOverLongRandomRuns)
+{
+    struct Knob
+    {
+        const char* id;
+        double lowest, highest;
+    };
+
+    const Knob steadyKnobs[] = { { "drive", 0, 100 },        { "crush", 0, 95 },
+                                 { "downsamp", 0, 60 },      { "bypassFilter", 0, 1 },
+                                 { "filterType", 0, 1 },     { "lowpassFreq", 20, 20000 },
+                                 { "lowpassRes", 0, 1 },     { "hipassFreq", 20, 20000 },
+                                 { "hipassRes", 0, 1 },      { "dry", -48, 6 },
+                                 { "wet", -48, 6 },          { "bypassDrySignal", 0, 1 },
+                                 { "bypassWetSignal", 0, 1 } };
+    const Knob movingKnobs[] = { { "driveModDepth", 0, 100 },     { "crushModDepth", 0, 100 },
+                                 { "downsampModDepth", 0, 60 },   { "filterFreqModDepth", 0, 90 },
+                                 { "filterResModDepth", 0, 100 }, { "lfoFreeRate", 0, 9 },
+                                 { "lfoWaveform", 0, 3 } };
+
+    for (int run = 0; run < 12; ++run)
+    {
+        constexpr int length = 100000;
+        const auto isModulated = run % 4 == 3;
+        const auto layout = run % 3;
+        const auto numInputs = layout == 2 ? 2 : 1;
+        const auto numOutputs = layout == 0 ? 1 : 2;
+        const auto signal = signals::makeBusySignal (2, length, 0.9f);
+        juce::Random random (run);
+        Case settings;
+        settings.sampleRate = run % 2 == 0 ? 48000.0 : 22050.0;
+        Comparison comparison (settings, numInputs, numOutputs);
+        comparison.prepare (256);
+
+        for (int start = 0; start < length;)
+        {
+            const auto isMoving = isModulated && random.nextBool();
+            const auto& knob =
+                isMoving ? movingKnobs[random.nextInt (7)] : steadyKnobs[random.nextInt (13)];
+            const auto reach = knob.highest - knob.lowest;
+            const auto value = knob.lowest + reach * random.nextDouble();
+            const auto isResonance = std::string (knob.id).find ("passRes") != std::string::npos;
+            const auto step = isResonance ? 0.02 : 1.0;
+
+            if (random.nextInt (3) == 0)
+                comparison.setBoth (knob.id, std::round (value / step) * step);
+
+            const auto numSamples =
+                std::min (random.nextInt (random.nextInt (10) == 0 ? 3000 : 300), length - start);
+            comparison.processBlock (signal, start, numSamples);
+            start += numSamples;
+        }
+
+        SCOPED_TRACE (run);
+        expectAgreement (comparison, isModulated);
+    }
+}
+
 } // namespace
