@@ -5,7 +5,7 @@
 #include "framework/dsp/ScalarFrames.h"
 
 #include <cstring>
-#include <new>
+#include <memory>
 
 #if ! defined(ZEMBRA_HAS_VECTOR_FRAMES)
 #if defined(__GNUC__) // Clang too
@@ -125,7 +125,9 @@ struct VectorFrames final
     /** Four numbers of any meaning, at an address that is a multiple of 16. */
     static Pair four (const float* v)
     {
-        return Pair (*std::launder (reinterpret_cast<const Floats*> (v)));
+        Floats result;
+        std::memcpy (&result, std::assume_aligned<16> (v), sizeof (result));
+        return Pair (result);
     }
 
     /** One of the four numbers of two frames, for both channels. */
