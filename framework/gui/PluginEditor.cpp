@@ -5,6 +5,7 @@
 #include "framework/core/Settings.h"
 #include "framework/gui/HostWindow.h"
 #include "framework/gui/lookandfeel/ColourIds.h"
+#include "framework/presets/PresetFileManager.h"
 
 namespace zembra
 {
@@ -18,6 +19,12 @@ constexpr int unlimited = 0x3fffffff;
 bool isOne (const Settings& settings, const juce::String& key)
 {
     return settings.getValue (key, "1") == "1";
+}
+
+/** An empty list gives an empty file. A host may hand over anything but a path. */
+juce::File getFirstFile (const juce::StringArray& files)
+{
+    return juce::File::isAbsolutePath (files[0]) ? juce::File (files[0]) : juce::File();
 }
 
 } // namespace
@@ -183,6 +190,19 @@ bool PluginEditor::keyPressed (const juce::KeyPress& key)
 {
     // The tab key walks the controls; everything else that no control took is the host's.
     return ! key.isKeyCode (juce::KeyPress::tabKey) && passKeyToHost (*this, key);
+}
+
+bool PluginEditor::isInterestedInFileDrag (const juce::StringArray& files)
+{
+    const auto& extension = pluginProcessor.getPresetFileManager().getExtension();
+    return getFirstFile (files).hasFileExtension (extension);
+}
+
+void PluginEditor::filesDropped (const juce::StringArray& files, int, int)
+{
+    fileDragInProgress = false;
+    pluginProcessor.getPresetFileManager().loadPreset (getFirstFile (files),
+                                                       &pluginProcessor.getUndoManager());
 }
 
 void PluginEditor::sizeAccepted()

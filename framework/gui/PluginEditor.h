@@ -24,6 +24,7 @@ namespace zembra
 */
 class PluginEditor : public juce::AudioProcessorEditor,
                      private juce::Timer,
+                     public juce::FileDragAndDropTarget,
                      private PluginMoveDetector::Listener
 {
 public:
@@ -75,6 +76,13 @@ public:
     void focusLost (FocusChangeType) override;
     bool keyPressed (const juce::KeyPress&) override;
 
+    // A preset file that is dropped on the editor is loaded, undoably. Only the first one counts.
+    bool isInterestedInFileDrag (const juce::StringArray& files) override;
+    void fileDragEnter (const juce::StringArray&, int, int) override { fileDragInProgress = true; }
+    void fileDragMove (const juce::StringArray&, int, int) override {}
+    void fileDragExit (const juce::StringArray&) override { fileDragInProgress = false; }
+    void filesDropped (const juce::StringArray& files, int, int) override;
+
 protected:
     /** Sets the colour in which the header's menus and both strips show what is active. */
     void setStripAccent (juce::Colour accent);
@@ -114,6 +122,7 @@ private:
     std::unique_ptr<PluginMoveDetector> moveDetector;
     juce::ComponentBoundsConstrainer constrainer;
     juce::OwnedArray<PluginWidget> widgets;
+    bool fileDragInProgress = false;
     bool checkVersionOnStartup = true;
     bool allowHiResUI = true;
     juce::TextButton dialogWorkaroundTb;

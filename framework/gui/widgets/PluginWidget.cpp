@@ -235,6 +235,7 @@ void PluginWidget::openLearnPanel()
     box.addComponentListener (this);
     learnCallOut = &box;
     midiLearnPanelOpen = true;
+    processor.startLearning (getParam().getId());
     repaint();
 }
 
@@ -244,16 +245,15 @@ void PluginWidget::dismissLearnCallOut()
     {
         box->removeComponentListener (this);
         box->exitModalState (0);
-        learnCallOut = nullptr;
-        midiLearnPanelOpen = false;
-        repaint();
+        learnPanelClosed();
     }
-
-    learnPanel.reset();
 }
 
-void PluginWidget::componentBeingDeleted (juce::Component&)
+void PluginWidget::componentBeingDeleted (juce::Component&) { learnPanelClosed(); }
+
+void PluginWidget::learnPanelClosed()
 {
+    processor.stopLearning();
     learnCallOut = nullptr;
     learnPanel.reset();
     midiLearnPanelOpen = false;

@@ -121,6 +121,7 @@ private:
     void applyPendingMarks();
     void showBubble();
     void openLearnPanel();
+    void learnPanelClosed();
     void copyBubbleColours();
     ZembraLookAndFeelMethods* getMethods() const;
 

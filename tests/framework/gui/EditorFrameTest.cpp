@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "framework/core/Settings.h"
 #include "framework/gui/widgets/Fader.h"
+#include "framework/presets/PresetFileManager.h"
 #include "tests/support/FakeDisplay.h"
 #include "tests/support/TestEditor.h"
 #include "tests/support/TestWindow.h"
@@ -166,10 +167,12 @@ TEST (EditorLearnMode, ControlsRestAndAClickOpensThePanel)
     EXPECT_EQ (f.vorlo.get (paramId::drive), 0.0);
     ASSERT_NE (findCallOut (f.editor), nullptr);
     EXPECT_NE (learnable->learnPanel, nullptr);
+    EXPECT_EQ (f.vorlo.processor.getMidiLearnParam(), &f.vorlo.param (paramId::drive));
 
     // The panel goes at once, with whatever it points to; the box a moment later.
     f.editor.dismissTransients();
     EXPECT_EQ (learnable->learnPanel, nullptr);
+    EXPECT_EQ (f.vorlo.processor.getMidiLearnParam(), nullptr);
     TestWindow::runMessages (50);
     EXPECT_EQ (findCallOut (f.editor), nullptr);
 
@@ -177,6 +180,32 @@ TEST (EditorLearnMode, ControlsRestAndAClickOpensThePanel)
     EXPECT_TRUE (learnable->isEnabled() && other->isEnabled());
     window.drag (learnable->getSlider(), { 0, -50 });
     EXPECT_GT (f.vorlo.get (paramId::drive), 0.0);
+}
+
+TEST (EditorDrop, LoadsTheFirstPresetUndoably)
+{
+    Frame f;
+    auto& manager = f.vorlo.processor.getPresetFileManager();
+    const auto first = f.vorlo.folder.getChild ("first.ompreset");
+    const auto second = f.vorlo.folder.getChild ("second.ompreset");
+    f.vorlo.set (paramId::drive, 30.0);
+    ASSERT_TRUE (manager.savePresetToFile (second));
+    f.vorlo.set (paramId::drive, 60.0);
+    ASSERT_TRUE (manager.savePresetToFile (first));
+    f.vorlo.set (paramId::drive, 10.0);
+    const juce::StringArray both{ first.getFullPathName(), second.getFullPathName() };
+
+    EXPECT_TRUE (f.editor.isInterestedInFileDrag (both));
+    EXPECT_FALSE (f.editor.isInterestedInFileDrag ({ "/somewhere/song.wav" }));
+    EXPECT_FALSE (f.editor.isInterestedInFileDrag ({}));
+    f.editor.filesDropped ({}, 0, 0);
+    f.editor.filesDropped ({ "no path.ompreset" }, 0, 0);
+    EXPECT_EQ (f.vorlo.get (paramId::drive), 10.0);
+
+    f.editor.filesDropped (both, 5, 5);
+    EXPECT_NEAR (f.vorlo.get (paramId::drive), 60.0, 1e-4);
+    EXPECT_TRUE (f.vorlo.processor.getUndoManager().undo());
+    EXPECT_NEAR (f.vorlo.get (paramId::drive), 10.0, 1e-4);
 }
 
 TEST (EditorSettings, AreReadAtTheStartAndWrittenBack)
