@@ -3,6 +3,7 @@
 #include "product/VorloEditor.h"
 
 #include "framework/gui/lookandfeel/ColourIds.h"
+#include "framework/gui/widgets/TipsComponent.h"
 
 namespace
 {
@@ -33,6 +34,11 @@ VorloEditor::VorloEditor (VorloProcessor& processorToUse)
 
     getHeader().addAndMakeVisible (makerLogo);
     getHeader().addAndMakeVisible (productLogo);
+
+    const juce::Colour page{ 0xffd3d3d3 };
+    auto& tabs = getDialogs().getAboutPrefsTabs();
+    tabs.addTab (TRANS ("Tips"), page, new zembra::TipsComponent, true);
+    tabs.sendLookAndFeelChange(); // pages were made under another look than the window's
 
     setBounds (getX(), getY(), orDefault (vorloProcessor.getPluginEditorWidth(), defaultWidth),
                orDefault (vorloProcessor.getPluginEditorHeight(), defaultHeight));

@@ -7,6 +7,7 @@
 namespace
 {
 constexpr auto midiLearn = "midi-learn";
+constexpr auto tips = "tips";
 } // namespace
 
 Snapshot::Snapshot (SnapshotOptions optionsToUse)
@@ -44,8 +45,8 @@ juce::String Snapshot::applySettings()
 
 juce::String Snapshot::open()
 {
-    if (options.dialog.isNotEmpty() && options.dialog != midiLearn)
-        return "there is no dialog \"" + options.dialog + "\"; known: " + midiLearn;
+    if (options.dialog.isNotEmpty() && options.dialog != midiLearn && options.dialog != tips)
+        return "there is no dialog \"" + options.dialog + "\"; known: " + midiLearn + ", " + tips;
 
     if (auto fault = applySettings(); fault.isNotEmpty())
         return fault;
@@ -57,10 +58,20 @@ juce::String Snapshot::open()
 
 juce::Image Snapshot::paint()
 {
-    if (options.dialog == midiLearn)
-        dynamic_cast<zembra::PluginEditor&> (*editor).setMidiLearnMode (true);
+    auto& frame = dynamic_cast<zembra::PluginEditor&> (*editor);
+    juce::Component* shown = editor.get();
 
-    return editor->createComponentSnapshot (editor->getLocalBounds(), true, options.scale);
+    if (options.dialog == midiLearn)
+        frame.setMidiLearnMode (true);
+
+    if (options.dialog == tips)
+    {
+        auto& tabs = frame.getDialogs().getAboutPrefsTabs();
+        tabs.setCurrentTabIndex (tabs.getTabNames().indexOf (TRANS ("Tips")));
+        shown = &frame.getDialogs().getAboutPrefsWindow();
+    }
+
+    return shown->createComponentSnapshot (shown->getLocalBounds(), true, options.scale);
 }
 
 juce::String Snapshot::writePng (const juce::Image& picture, const juce::File& file)

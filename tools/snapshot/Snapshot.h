@@ -24,7 +24,7 @@ public:
     */
     juce::String open();
 
-    /** Shows what the options name over the editor, and paints it. */
+    /** Shows what the options name, and paints it: the editor, or one of its windows. */
     juce::Image paint();
 
     VorloProcessor& getProcessor() noexcept { return processor; }

@@ -3,9 +3,22 @@
 #include "framework/gui/lookandfeel/AboutAndPrefsLookAndFeel.h"
 
 #include "framework/gui/lookandfeel/FittedText.h"
+#include "framework/gui/lookandfeel/Palette.h"
 
 namespace zembra
 {
+
+AboutAndPrefsLookAndFeel::AboutAndPrefsLookAndFeel()
+{
+    const juce::Colour ink{ 0xff222222 };
+    applyColours (*this, {
+                             { juce::Label::textColourId, ink },
+                             { juce::ToggleButton::textColourId, ink },
+                             { juce::TextEditor::textColourId, ink },
+                             { juce::TextEditor::backgroundColourId, juce::Colour (0x00000000) },
+                             { juce::ScrollBar::thumbColourId, juce::Colour (0xff909090) },
+                         });
+}
 
 void AboutAndPrefsLookAndFeel::drawTabButton (juce::TabBarButton& button, juce::Graphics& g,
                                               bool isMouseOver, bool isDown)

@@ -7,11 +7,13 @@
 namespace zembra
 {
 
-/** Draws tabs as plain sheets that take the colour of their page. */
+/** Draws tabs as plain sheets that take the colour of their page; texts are dark, since pages are
+    light.
+*/
 class AboutAndPrefsLookAndFeel final : public PluginWindowsLookAndFeel
 {
 public:
-    AboutAndPrefsLookAndFeel() = default;
+    AboutAndPrefsLookAndFeel();
 
     void drawTabButton (juce::TabBarButton&, juce::Graphics&, bool isMouseOver,
                         bool isDown) override;

@@ -53,4 +53,12 @@ juce::Typeface::Ptr getSystemTypeface (TypefaceStyle style)
         { juce::Font::getDefaultSansSerifFontName(), 14.0f, flags });
 }
 
+bool isFamilyAvailable (const juce::String& family)
+{
+    static const auto families = juce::Font::findAllTypefaceNames();
+    return families.contains (family) || family == juce::Font::getDefaultSansSerifFontName()
+           || family == juce::Font::getDefaultSerifFontName()
+           || family == juce::Font::getDefaultMonospacedFontName();
+}
+
 } // namespace zembra

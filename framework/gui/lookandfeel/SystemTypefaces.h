@@ -20,4 +20,9 @@ enum class TypefaceStyle
 */
 juce::Typeface::Ptr getSystemTypeface (TypefaceStyle style);
 
+/** True if a font can be set in the family that it names: a family of the system, in exactly this
+    spelling, or one of the default families.
+*/
+bool isFamilyAvailable (const juce::String& family);
+
 } // namespace zembra

@@ -26,7 +26,10 @@ ZembraLookAndFeel::ZembraLookAndFeel()
 
 juce::Typeface::Ptr ZembraLookAndFeel::getTypefaceForFont (const juce::Font& font)
 {
-    if (font.getTypefaceName() != juce::Font::getDefaultSansSerifFontName())
+    const auto& family = font.getTypefaceName();
+
+    // A text in a family that the system lacks would come out blank.
+    if (family != juce::Font::getDefaultSansSerifFontName() && isFamilyAvailable (family))
         return LookAndFeel_V3::getTypefaceForFont (font);
 
     if (font.getTypefaceStyle().contains ("Bold"))

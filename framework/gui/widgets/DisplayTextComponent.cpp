@@ -31,7 +31,8 @@ void DisplayTextComponent::setText (const juce::String& text)
 void DisplayTextComponent::colourChanged()
 {
     copyAllExplicitColoursTo (view);
-    view.applyColourToAllText (view.findColour (juce::TextEditor::textColourId));
+    // From here, not from the view, which would keep the first colour it is given as its own.
+    view.applyColourToAllText (findColour (juce::TextEditor::textColourId));
 }
 
 } // namespace zembra

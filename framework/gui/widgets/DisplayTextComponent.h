@@ -17,6 +17,7 @@ public:
     juce::String getText() const { return view.getText(); }
 
     void colourChanged() override;
+    void lookAndFeelChanged() override { colourChanged(); }
     void resized() override { view.setBounds (getLocalBounds()); }
 
 private:

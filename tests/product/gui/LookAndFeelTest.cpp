@@ -224,4 +224,8 @@ TEST (Look, NeverLacksATypeface)
         ASSERT_NE (typeface, nullptr);
         EXPECT_GT (typeface->getStringWidth ("Vorlo"), 0.0f);
     }
+
+    const auto substitute = look.getTypefaceForFont (juce::Font ("no such family", 14.0f, 0));
+    ASSERT_NE (substitute, nullptr);
+    EXPECT_GT (substitute->getStringWidth ("Vorlo"), 0.0f);
 }
