@@ -92,7 +92,7 @@ SettingsFile::SettingsFile (const juce::File& fileToUse, int delayMilliseconds)
       stampOfValues (FileStamp::of (fileToUse))
 {
     if (auto stored = readValues (file))
-        values = std::move (*stored);
+        values = *stored;
 }
 
 SettingsFile::~SettingsFile() { flush (30000); }
@@ -175,7 +175,7 @@ bool SettingsFile::writeEdits (int longestWaitMilliseconds)
     if (merged != stored && ! writeValues (merged, file))
         return false;
 
-    values = std::move (merged);
+    values = merged;
     stampOfValues = FileStamp::of (file);
     pending.clear();
     return true;

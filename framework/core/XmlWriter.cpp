@@ -18,7 +18,7 @@ bool isLegal (juce::juce_wchar character)
     const auto code = static_cast<juce::uint32> (character);
 
     if (code < 0x20)
-        return code == '\t' || code == '\n' || code == '\r';
+        return character == L'\t' || character == L'\n' || character == L'\r';
 
     return code < 0xd800 || (code > 0xdfff && code < 0xfffe) || (code > 0xffff && code <= 0x10ffff);
 }

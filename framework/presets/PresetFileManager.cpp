@@ -247,13 +247,13 @@ void PresetFileManager::setDefaultPreset (const juce::String& path)
 
 juce::String PresetFileManager::getDescription (const juce::XmlElement& root) const
 {
-    const auto text = root.getStringAttribute ("description");
+    const auto& text = root.getStringAttribute ("description");
     return text.isNotEmpty() ? text : stateManagers.getFirst()->getDescription (root);
 }
 
 juce::String PresetFileManager::getAuthor (const juce::XmlElement& root) const
 {
-    const auto text = root.getStringAttribute ("author");
+    const auto& text = root.getStringAttribute ("author");
     return text.isNotEmpty() ? text : stateManagers.getFirst()->getAuthor (root);
 }
 

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <array>
+#include <cstddef>
 
 /** One note length as a fraction of a whole note; "d" marks a dotted one, "T" a triplet. */
 struct LfoDivision

@@ -75,7 +75,7 @@ std::string fuzz::loadChunk (const std::uint8_t* data, std::size_t size)
         && instance.save() != before)
         return "a refused chunk has changed something";
 
-    if (const auto problem = findValueOutOfRange (instance.processor.getParamSet());
+    if (auto problem = findValueOutOfRange (instance.processor.getParamSet());
         ! problem.empty())
         return problem;
 
@@ -94,7 +94,7 @@ std::string fuzz::loadPreset (const std::uint8_t* data, std::size_t size)
     if (! took && presets.getStateText() != before)
         return "a refused preset has changed something";
 
-    if (const auto problem = findValueOutOfRange (instance.processor.getParamSet());
+    if (auto problem = findValueOutOfRange (instance.processor.getParamSet());
         ! problem.empty())
         return problem;
 

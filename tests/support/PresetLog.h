@@ -23,7 +23,7 @@ public:
     /** What was told since the last call, separated by spaces. */
     juce::String take()
     {
-        const auto text = words.joinIntoString (" ");
+        auto text = words.joinIntoString (" ");
         words.clear();
         return text;
     }

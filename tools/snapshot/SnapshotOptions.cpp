@@ -85,7 +85,7 @@ juce::String SnapshotOptions::parse (const juce::StringArray& arguments, Snapsho
             if (i + 1 >= arguments.size())
                 return argument + " needs a value";
 
-            if (const auto fault = parseOption (argument, arguments[++i], options);
+            if (auto fault = parseOption (argument, arguments[++i], options);
                 fault.isNotEmpty())
                 return fault;
         }

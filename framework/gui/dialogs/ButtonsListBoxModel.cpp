@@ -26,7 +26,7 @@ juce::Component* ButtonsListBoxModel::refreshComponentForRow (int row, bool isSe
     auto* component = dynamic_cast<ButtonListBoxComponent*> (recycled.get());
 
     if (component != nullptr && component->getType() == type)
-        recycled.release();
+        juce::ignoreUnused (recycled.release()); // the list takes it back as the result
     else
         component = new ButtonListBoxComponent (type, rowClicked);
 

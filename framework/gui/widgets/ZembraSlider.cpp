@@ -42,7 +42,7 @@ void ZembraSlider::setThumbTooltips (const juce::String& forMin, const juce::Str
 juce::String ZembraSlider::getTextFromValue (double value)
 {
     if (param != nullptr)
-        if (const auto named = param->valueTexts[juce::roundToInt (value)]; named.isNotEmpty())
+        if (auto named = param->valueTexts[juce::roundToInt (value)]; named.isNotEmpty())
             return named;
 
     const auto decimals = getNumDecimalPlacesToDisplay();
