@@ -75,8 +75,7 @@ std::string fuzz::loadChunk (const std::uint8_t* data, std::size_t size)
         && instance.save() != before)
         return "a refused chunk has changed something";
 
-    if (auto problem = findValueOutOfRange (instance.processor.getParamSet());
-        ! problem.empty())
+    if (auto problem = findValueOutOfRange (instance.processor.getParamSet()); ! problem.empty())
         return problem;
 
     return checkRoundTrip (instance);
@@ -94,8 +93,7 @@ std::string fuzz::loadPreset (const std::uint8_t* data, std::size_t size)
     if (! took && presets.getStateText() != before)
         return "a refused preset has changed something";
 
-    if (auto problem = findValueOutOfRange (instance.processor.getParamSet());
-        ! problem.empty())
+    if (auto problem = findValueOutOfRange (instance.processor.getParamSet()); ! problem.empty())
         return problem;
 
     const auto text = presets.getStateText();

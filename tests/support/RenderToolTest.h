@@ -16,7 +16,7 @@ protected:
     /** Runs the tool with arguments that are separated by spaces. */
     ToolProcess::Result run (const juce::String& arguments, std::optional<int> largestFile = {})
     {
-        return ToolProcess::run (tool, split (arguments), folder.get(), largestFile);
+        return ToolProcess::run (tool, split (arguments), folder.get(), largestFile, home);
     }
 
     /** Runs the tool, which must succeed silently, and reads its result, "out.wav" or another. */
@@ -64,4 +64,5 @@ protected:
 
     const juce::File tool{ VORLO_RENDER_PATH };
     TemporaryFolder folder;
+    juce::File home; ///< of the tool; unless set, one that doesn't exist
 };

@@ -41,16 +41,17 @@ std::vector<char*> makePointers (std::vector<std::string>& texts)
 } // namespace
 
 ToolProcess::ToolProcess (const juce::File& program, const juce::StringArray& arguments,
-                          const juce::File& workingFolder, std::optional<int> largestFile)
+                          const juce::File& workingFolder, std::optional<int> largestFile,
+                          const juce::File& home)
 {
+    const auto homeToUse = home == juce::File() ? streams.getChild ("home") : home;
     std::vector<std::string> words{ program.getFullPathName().toStdString() };
 
     for (const auto& argument : arguments)
         words.push_back (argument.toStdString());
 
-    std::vector<std::string> variables{
-        "HOME=" + streams.getChild ("home").getFullPathName().toStdString(), "PATH=/usr/bin:/bin"
-    };
+    std::vector<std::string> variables{ "HOME=" + homeToUse.getFullPathName().toStdString(),
+                                        "PATH=/usr/bin:/bin" };
 
     // The sanitizers' switches, where there are any.
     for (const auto* name : { "ASAN_OPTIONS", "UBSAN_OPTIONS", "TSAN_OPTIONS", "LSAN_OPTIONS" })
@@ -101,7 +102,7 @@ ToolProcess::Result ToolProcess::wait()
 
 ToolProcess::Result ToolProcess::run (const juce::File& program, const juce::StringArray& arguments,
                                       const juce::File& workingFolder,
-                                      std::optional<int> largestFile)
+                                      std::optional<int> largestFile, const juce::File& home)
 {
-    return ToolProcess (program, arguments, workingFolder, largestFile).wait();
+    return ToolProcess (program, arguments, workingFolder, largestFile, home).wait();
 }

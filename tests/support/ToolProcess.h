@@ -19,9 +19,12 @@ public:
         juce::String output, errors;
     };
 
-    /** @param largestFile  if given, the size in bytes beyond which the process can't write */
+    /** @param largestFile  if given, the size in bytes beyond which the process can't write
+        @param home         the home folder; by default one that doesn't exist
+    */
     ToolProcess (const juce::File& program, const juce::StringArray& arguments,
-                 const juce::File& workingFolder, std::optional<int> largestFile = {});
+                 const juce::File& workingFolder, std::optional<int> largestFile = {},
+                 const juce::File& home = {});
     ~ToolProcess();
 
     /** Waits for the end. */
@@ -32,7 +35,8 @@ public:
 
     /** Starts, and waits for the end. */
     static Result run (const juce::File& program, const juce::StringArray& arguments,
-                       const juce::File& workingFolder, std::optional<int> largestFile = {});
+                       const juce::File& workingFolder, std::optional<int> largestFile = {},
+                       const juce::File& home = {});
 
 private:
     bool collect (int options);

@@ -52,13 +52,13 @@ void Engine::flushParameters()
     noMidi.clear();
 }
 
-void Engine::process (juce::AudioBuffer<float>& block)
+void Engine::process (juce::AudioBuffer<float>& block, juce::MidiBuffer& midi)
 {
     const auto numFrames = block.getNumSamples();
 
     if (numProcessorChannels == block.getNumChannels())
     {
-        getProcessor().processBlock (block, noMidi);
+        getProcessor().processBlock (block, midi);
     }
     else
     {
@@ -68,11 +68,12 @@ void Engine::process (juce::AudioBuffer<float>& block)
         for (int channel = 0; channel < numProcessorChannels; ++channel)
             wide.copyFrom (channel, 0, block, 0, 0, numFrames);
 
-        getProcessor().processBlock (wide, noMidi);
+        getProcessor().processBlock (wide, midi);
         block.copyFrom (0, 0, wide, 0, 0, numFrames);
     }
 
-    noMidi.clear();
+    midi.clear();
+    blockDone();
 }
 
 } // namespace render

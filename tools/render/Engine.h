@@ -28,13 +28,16 @@ public:
     */
     void setParameter (const juce::String& name, float normalised);
 
-    /** Processes a block in place. */
-    void process (juce::AudioBuffer<float>& block);
+    /** Processes a block in place; the buffer of events is empty afterwards. */
+    void process (juce::AudioBuffer<float>& block, juce::MidiBuffer& midi);
 
 protected:
     Engine() = default;
 
     virtual juce::AudioProcessor& getProcessor() = 0;
+
+    /** Does what a host's message loop would do between two blocks. */
+    virtual void blockDone() {}
 
 private:
     void chooseLayout (int numChannels);

@@ -23,8 +23,16 @@ public:
     /** @param seed  of the random LFO wave; without it, each render differs there */
     explicit LinkedEngine (std::optional<std::int64_t> seed);
 
+    /** Lets MIDI events control the processor, as far as another one would let them: takes its
+        channel, its map of controllers and its frozen parameters, which programs leave alone.
+    */
+    void enableMidi (zembra::PluginProcessor& model);
+
 protected:
     juce::AudioProcessor& getProcessor() override { return processor; }
+
+    /** Takes over the preset of a program change. */
+    void blockDone() override { processor.deliverRealtimeChanges(); }
 
 private:
     VorloProcessor processor{ getNowhere() };

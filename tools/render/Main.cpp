@@ -5,6 +5,7 @@
 #include "tools/render/LinkedEngine.h"
 #include "tools/render/Measurement.h"
 #include "tools/render/ParameterList.h"
+#include "tools/render/PresetLibrary.h"
 #include "tools/render/RenderOptions.h"
 #include "tools/render/Renderer.h"
 
@@ -38,12 +39,20 @@ void run (const RenderOptions& options)
         return print (measureFile (options.input).toString() + '\n');
 
     const juce::ScopedJuceInitialiser_GUI messageThread;
+    const juce::SharedResourcePointer<zembra::MidiProgramsTable> programs;
+
+    if (! options.midi.empty())
+        scanProgramPresets (*programs);
+
     VorloProcessor reference (getNowhere());
 
     if (options.mode == Mode::list)
         return print (listParameters (reference.getParamSet()));
 
-    renderFile (options, reference.getParamSet());
+    if (options.mode == Mode::presets)
+        return print (PresetLibrary (reference).list());
+
+    renderFile (options, reference);
 }
 
 /** Whatever a file's name holds, the message stays one line. */

@@ -97,9 +97,14 @@ std::vector<ParameterSetting> parseSettings (const zembra::ParamSet& params,
         settings.push_back (setting);
     }
 
+    sortSettings (settings);
+    return settings;
+}
+
+void sortSettings (std::vector<ParameterSetting>& settings)
+{
     std::stable_sort (settings.begin(), settings.end(),
                       [] (const auto& a, const auto& b) { return getRank (a) < getRank (b); });
-    return settings;
 }
 
 } // namespace render

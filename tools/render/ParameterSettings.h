@@ -28,4 +28,7 @@ struct ParameterSetting
 std::vector<ParameterSetting> parseSettings (const zembra::ParamSet& params,
                                              const std::vector<std::string>& assignments);
 
+/** Brings settings into that order. */
+void sortSettings (std::vector<ParameterSetting>& settings);
+
 } // namespace render

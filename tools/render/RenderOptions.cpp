@@ -67,7 +67,7 @@ void setSeed (RenderOptions& options, const std::string& text)
 void setMode (RenderOptions& options, Mode mode)
 {
     if (options.mode != Mode::render && options.mode != mode)
-        refuse ("--list and --measure exclude each other");
+        refuse ("--list, --presets and --measure exclude each other");
 
     options.mode = mode;
 }
@@ -80,6 +80,38 @@ void setPlugin (RenderOptions& options, const std::string& path)
     options.plugin = path;
 }
 
+void setState (RenderOptions& options, const std::string& path)
+{
+    if (path.empty())
+        refuse ("--state takes the path of a saved state");
+
+    options.state = path;
+}
+
+void setPreset (RenderOptions& options, const std::string& nameOrFile)
+{
+    if (nameOrFile.empty())
+        refuse ("--preset takes the name or the path of a preset");
+
+    options.preset = nameOrFile;
+}
+
+void setPresetToSave (RenderOptions& options, const std::string& path)
+{
+    if (! path.ends_with (".ompreset"))
+        refuse ("--save-preset takes a path that ends in .ompreset, not " + inQuotes (path));
+
+    options.presetToSave = path;
+}
+
+void setMidi (RenderOptions& options, const std::string& path)
+{
+    if (path.empty())
+        refuse ("--midi takes the path of a MIDI file");
+
+    options.midi = path;
+}
+
 /** One option: its name, whether a value follows, and what it does. */
 struct Option
 {
@@ -88,7 +120,7 @@ struct Option
     void (*apply) (RenderOptions&, const std::string& value);
 };
 
-constexpr std::array<Option, 9> optionTable{ {
+constexpr std::array<Option, 14> optionTable{ {
     { "--set", true, [] (auto& options, auto& text) { options.assignments.push_back (text); } },
     { "--sync", false,
       [] (auto& options, auto&)
@@ -98,6 +130,11 @@ constexpr std::array<Option, 9> optionTable{ {
     { "--bits", true, setBits },
     { "--seed", true, setSeed },
     { "--plugin", true, setPlugin },
+    { "--state", true, setState },
+    { "--preset", true, setPreset },
+    { "--save-preset", true, setPresetToSave },
+    { "--midi", true, setMidi },
+    { "--presets", false, [] (auto& options, auto&) { setMode (options, Mode::presets); } },
     { "--list", false, [] (auto& options, auto&) { setMode (options, Mode::list); } },
     { "--measure", false, [] (auto& options, auto&) { setMode (options, Mode::measure); } },
 } };
@@ -159,11 +196,18 @@ private:
             refuse (name + " needs a value");
     }
 
+    size_t countWantedOperands() const
+    {
+        if (options.mode == Mode::measure)
+            return 1;
+
+        const auto onlySaves = operands.empty() && ! options.presetToSave.empty();
+        return options.mode == Mode::render && ! onlySaves ? 2 : 0;
+    }
+
     void assignOperands()
     {
-        const size_t wanted = options.mode == Mode::list      ? 0
-                              : options.mode == Mode::measure ? 1
-                                                              : 2;
+        const auto wanted = countWantedOperands();
 
         if (operands.size() < wanted)
             refuse (wanted == 1 ? "--measure takes a file"
@@ -174,6 +218,12 @@ private:
 
         if (options.seed && ! options.plugin.empty())
             refuse ("--seed works with the built-in engine only, not with --plugin");
+
+        if (! options.midi.empty() && ! options.plugin.empty())
+            refuse ("--midi works with the built-in engine only, not with --plugin");
+
+        if (! options.midi.empty() && wanted < 2)
+            refuse ("--midi needs a file to read and one to write");
 
         options.input = wanted > 0 ? operands[0] : std::string();
         options.output = wanted > 1 ? operands[1] : std::string();
@@ -197,7 +247,9 @@ const char* getHelpText()
 {
     return R"(usage: vorlo-render IN OUT [options]
        vorlo-render --measure FILE
+       vorlo-render --save-preset FILE [options]
        vorlo-render --list
+       vorlo-render --presets
 
 Takes a mono or stereo recording through Vorlo and writes the result.
 
@@ -208,6 +260,17 @@ Takes a mono or stereo recording through Vorlo and writes the result.
   --set ID=VALUE   sets a parameter: a number ("drive=40", "lowpassFreq=2500Hz") or the name of a
                    value ("lfoWaveform=square", "dry=-inf"); may be given many times, and what is
                    given last counts
+  --preset NAME_OR_FILE
+                   starts from a preset: a file, or else the name of one of the user's, designers'
+                   or factory presets, alone ("Growl") or with its bank ("Bass/Growl"); --set
+                   changes what it says
+  --state FILE     starts from a saved state, the chunk that a host keeps; --preset comes after it
+  --save-preset FILE
+                   writes the sound of --state, --preset and --set to a preset, FILE.ompreset
+  --presets        prints the presets by name
+  --midi FILE      controllers and program changes of a standard MIDI file drive the built-in engine
+                   at their times, to the block: controllers as the saved state maps them, programs
+                   with the user's presets of the bank "MIDI Programs"
   --list           prints the parameters: id, name, range, unit, default, named values
   --bpm N          the tempo of the song, which plays from its start; 120 by default
   --sync           lets the LFO follow the tempo, as --set lfoSyncOrFree=sync does
@@ -220,7 +283,7 @@ Takes a mono or stereo recording through Vorlo and writes the result.
   --help           prints this
   --version        prints the version
 
-Presets and settings of the user don't change a render. Options may stand anywhere; "--" ends them.
+Presets and settings of the user don't change a render that doesn't ask for them. Options may stand anywhere; "--" ends them.
 The exit code is 0 if all went well, 2 for a wrong command line, 1 for any other failure, and 128
 plus the signal's number after an interruption.
 )";

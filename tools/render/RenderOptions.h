@@ -22,6 +22,7 @@ struct RenderOptions
     {
         render,
         list,
+        presets,
         measure,
         help,
         version
@@ -31,8 +32,12 @@ struct RenderOptions
 
     Mode mode = Mode::render;
     std::string input;                    ///< the file to read; the one to measure
-    std::string output;                   ///< the file to write
+    std::string output;                   ///< the file to write; empty to save a preset only
     std::string plugin;                   ///< the binary to host; empty for the built-in engine
+    std::string state;                    ///< a saved chunk
+    std::string preset;                   ///< a preset's name or file
+    std::string presetToSave;             ///< the preset file to write
+    std::string midi;                     ///< a standard MIDI file
     std::vector<std::string> assignments; ///< "id=value", in the order given
     double bpm = 120.0;                   ///< the play head's tempo, above 0
     int blockSize = 512;                  ///< frames, 1 to largestBlock

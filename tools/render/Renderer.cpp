@@ -8,7 +8,8 @@
 #include "tools/render/HostedEngine.h"
 #include "tools/render/Interrupt.h"
 #include "tools/render/LinkedEngine.h"
-#include "tools/render/ParameterSettings.h"
+#include "tools/render/MidiTimeline.h"
+#include "tools/render/Patch.h"
 #include "tools/render/Progress.h"
 #include "tools/render/Transport.h"
 
@@ -25,12 +26,18 @@ void checkChannels (const AudioFileSource& source)
                        + " channels: only mono and stereo can be rendered");
 }
 
-std::unique_ptr<Engine> makeEngine (const RenderOptions& options, double sampleRate)
+std::unique_ptr<Engine> makeEngine (const RenderOptions& options, double sampleRate,
+                                    zembra::PluginProcessor& reference)
 {
-    if (options.plugin.empty())
-        return std::make_unique<LinkedEngine> (options.seed);
+    if (! options.plugin.empty())
+        return std::make_unique<HostedEngine> (options.plugin, sampleRate, options.blockSize);
 
-    return std::make_unique<HostedEngine> (options.plugin, sampleRate, options.blockSize);
+    auto engine = std::make_unique<LinkedEngine> (options.seed);
+
+    if (! options.midi.empty())
+        engine->enableMidi (reference);
+
+    return engine;
 }
 
 /** Whole blocks, together long enough for reading and writing in larger pieces. */
@@ -41,20 +48,21 @@ int getChunkSize (int blockSize)
 }
 
 void processChunk (juce::AudioBuffer<float>& chunk, int numFrames, int blockSize, Engine& engine,
-                   Transport& transport)
+                   Transport& transport, MidiTimeline& timeline)
 {
     for (int start = 0; start < numFrames; start += blockSize)
     {
         const auto length = std::min (blockSize, numFrames - start);
         juce::AudioBuffer<float> block (chunk.getArrayOfWritePointers(), chunk.getNumChannels(),
                                         start, length);
-        engine.process (block);
+        auto midi = timeline.takeNext (length);
+        engine.process (block, midi);
         transport.advance (length);
     }
 }
 
 void streamThrough (AudioFileSource& source, AudioFileSink& sink, Engine& engine,
-                    Transport& transport, int blockSize)
+                    Transport& transport, MidiTimeline& timeline, int blockSize)
 {
     juce::AudioBuffer<float> chunk (source.getNumChannels(), getChunkSize (blockSize));
     Progress progress (source.getNumFrames());
@@ -63,7 +71,7 @@ void streamThrough (AudioFileSource& source, AudioFileSink& sink, Engine& engine
     for (auto numFrames = chunk.getNumSamples(); numFrames == chunk.getNumSamples();)
     {
         numFrames = source.read (chunk);
-        processChunk (chunk, numFrames, blockSize, engine, transport);
+        processChunk (chunk, numFrames, blockSize, engine, transport, timeline);
         sink.write (chunk, numFrames);
         progress.show (done += numFrames);
         checkForInterrupt();
@@ -72,17 +80,24 @@ void streamThrough (AudioFileSource& source, AudioFileSink& sink, Engine& engine
 
 } // namespace
 
-void renderFile (const RenderOptions& options, const zembra::ParamSet& params)
+void renderFile (const RenderOptions& options, zembra::PluginProcessor& reference)
 {
+    if (options.output.empty())
+    {
+        applyPatch (reference, options);
+        return savePreset (reference, options.presetToSave);
+    }
+
     const auto type = getAudioFileType (options.output);
-    const auto settings = parseSettings (params, options.assignments);
+    const auto settings = applyPatch (reference, options);
     AudioFileSource source (options.input);
     checkChannels (source);
 
     const auto sampleFormat =
         chooseSampleFormat (type, options.sampleFormat, source.getSampleFormat());
     const auto sampleRate = source.getSampleRate();
-    const auto engine = makeEngine (options, sampleRate);
+    auto timeline = options.midi.empty() ? MidiTimeline() : MidiTimeline (options.midi, sampleRate);
+    const auto engine = makeEngine (options, sampleRate, reference);
     Transport transport (options.bpm, sampleRate);
     engine->prepare (sampleRate, options.blockSize, source.getNumChannels(), transport);
 
@@ -92,7 +107,11 @@ void renderFile (const RenderOptions& options, const zembra::ParamSet& params)
     AudioFileSink sink (options.output, type,
                         { source.getNumChannels(), static_cast<int> (sampleRate),
                           source.getNumFrames(), sampleFormat });
-    streamThrough (source, sink, *engine, transport, options.blockSize);
+    streamThrough (source, sink, *engine, transport, timeline, options.blockSize);
+
+    if (! options.presetToSave.empty())
+        savePreset (reference, options.presetToSave);
+
     sink.finish();
 }
 

@@ -85,8 +85,7 @@ juce::String SnapshotOptions::parse (const juce::StringArray& arguments, Snapsho
             if (i + 1 >= arguments.size())
                 return argument + " needs a value";
 
-            if (auto fault = parseOption (argument, arguments[++i], options);
-                fault.isNotEmpty())
+            if (auto fault = parseOption (argument, arguments[++i], options); fault.isNotEmpty())
                 return fault;
         }
         else if (argument.startsWith ("--"))
