@@ -15,7 +15,7 @@ namespace
 
 bool isLegal (juce::juce_wchar character)
 {
-    const auto code = static_cast<juce::uint32> (character);
+    const auto code = static_cast<juce::uint32> (character); // NOLINT(bugprone-signed-char-misuse)
 
     if (code < 0x20)
         return character == L'\t' || character == L'\n' || character == L'\r';
