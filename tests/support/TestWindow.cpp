@@ -24,6 +24,8 @@ void ignoreXErrors()
 #if JUCE_LINUX
     static const auto once = []
     {
+        juce::Desktop::getInstance()
+            .getDisplays(); // loads the display's library, with its functions
         juce::X11Symbols::getInstance()->xSetErrorHandler ([] (::Display*, ::XErrorEvent*)
                                                            { return 0; });
         return true;

@@ -75,7 +75,7 @@ void setValues (zembra::PluginProcessor& reference, const std::vector<ParameterS
 std::vector<ParameterSetting> applyPatch (zembra::PluginProcessor& reference,
                                           const RenderOptions& options)
 {
-    const auto given = parseSettings (reference.getParamSet(), options.assignments);
+    auto given = parseSettings (reference.getParamSet(), options.assignments);
 
     if (! options.state.empty())
         loadState (reference, options.state);
