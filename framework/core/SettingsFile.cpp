@@ -19,6 +19,18 @@ juce::String toOneLine (juce::XmlElement& tree)
     return XmlWriter::toText (tree, juce::XmlElement::TextFormat().singleLine().withoutHeader());
 }
 
+/** Makes a folder with all above it. Another instance may make the same ones at the same moment,
+    which looks like a failure once.
+*/
+bool makeFolder (const juce::File& folder)
+{
+    for (int attempt = 0; attempt < 10; ++attempt)
+        if (folder.createDirectory() || folder.isDirectory())
+            return true;
+
+    return false;
+}
+
 /** The values in a file; nothing if there is no file or what it holds are no settings. */
 std::optional<juce::StringPairArray> readValues (const juce::File& file)
 {
@@ -157,7 +169,7 @@ bool SettingsFile::flush (int longestWaitMilliseconds)
 
 bool SettingsFile::writeEdits (int longestWaitMilliseconds)
 {
-    if (! file.getParentDirectory().createDirectory())
+    if (! makeFolder (file.getParentDirectory()))
         return false;
 
     const FileLock fileLock (file, longestWaitMilliseconds);
