@@ -4,7 +4,14 @@
 
 #include "product/dsp/ChainParts.h"
 
-#if defined(__GNUC__)
+#if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
+#define VORLO_IS_SANITIZED 1
+#elif defined(__has_feature)
+#define VORLO_IS_SANITIZED __has_feature (address_sanitizer)
+#endif
+
+// Flattened, all its forms take a compiler ten minutes if it has to instrument them as well.
+#if defined(__GNUC__) && ! VORLO_IS_SANITIZED
 #define VORLO_FLATTEN [[gnu::flatten]]
 #else
 #define VORLO_FLATTEN
