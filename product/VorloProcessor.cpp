@@ -119,6 +119,10 @@ void VorloProcessor::lfoSyncChanged (bool synced, int source)
 
 bool VorloProcessor::isBusesLayoutSupported (const BusesLayout& layouts) const
 {
+    // Wrappers ask for every layout up to 64 channels when they make an instance.
+    if (layouts.getMainInputChannels() > 2 || layouts.getMainOutputChannels() > 2)
+        return false;
+
     const auto in = layouts.getMainInputChannelSet();
     const auto out = layouts.getMainOutputChannelSet();
     const auto mono = juce::AudioChannelSet::mono();

@@ -70,8 +70,23 @@ void Param::setValue (double newValue, int source, juce::UndoManager* undoManage
     }
 
     value.store (clamped, std::memory_order_relaxed);
-    const auto normalised = normalise (clamped);
-    listeners.call ([&] (Listener& l) { l.paramChanged (this, clamped, normalised, source); });
+    tellUntilTrue (
+        [this, source] (double plain, double normalised) {
+            listeners.call ([&] (Listener& l)
+                            { l.paramChanged (this, plain, normalised, source); });
+        });
+}
+
+template <typename Function>
+void Param::tellUntilTrue (Function&& tell)
+{
+    double told;
+
+    do
+    {
+        told = getValue();
+        tell (told, normalise (told));
+    } while (told != value.load());
 }
 
 juce::String Param::getText (float plain, int maximumStringLength) const
@@ -113,8 +128,8 @@ void Param::addListener (Listener* listener)
         return;
 
     listeners.add (listener);
-    const auto present = getValue();
-    listener->paramChanged (this, present, normalise (present), sourceState);
+    tellUntilTrue ([this, listener] (double plain, double normalised)
+                   { listener->paramChanged (this, plain, normalised, sourceState); });
 }
 
 void Param::removeListener (Listener* listener) { listeners.remove (listener); }

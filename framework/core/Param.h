@@ -155,6 +155,13 @@ public:
     juce::HashMap<int, juce::String> valueTexts;
 
 private:
+    /** Calls `tell (plain, normalised)` with the value, again if another thread has changed it
+        meanwhile: that thread may have been done with telling first, and then the old value would
+        be the last one told.
+    */
+    template <typename Function>
+    void tellUntilTrue (Function&& tell);
+
     std::atomic<double> value;
     ListenerArray<Listener> listeners;
     bool automatable = true;

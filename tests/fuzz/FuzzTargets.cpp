@@ -1,10 +1,11 @@
-// The targets: chunks, preset files, settings files, clipboard texts.
+// The targets: chunks, preset files, settings files, clipboard texts, MIDI.
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "tests/fuzz/FuzzTargets.h"
 
 #include "framework/core/Settings.h"
 #include "framework/core/XmlReader.h"
 #include "framework/core/XmlWriter.h"
+#include "framework/midi/ParamsMidiMapper.h"
 #include "framework/presets/PresetFileManager.h"
 #include "product/VorloProcessor.h"
 #include "tests/support/TemporaryFolder.h"
@@ -38,6 +39,40 @@ struct Instance
     TemporaryFolder folder;
     VorloProcessor processor{ zembra::FolderRoots::inside (folder.get()) };
 };
+
+/** Any bytes, cut into the events of one block. */
+juce::MidiBuffer cutIntoEvents (const std::uint8_t* data, std::size_t size)
+{
+    juce::MidiBuffer midi;
+
+    for (int time = 0; size > 1; ++time)
+    {
+        const auto length = std::min (size - 1, std::size_t{ 1 } + (data[0] & 3u));
+        midi.addEvent (data + 1, static_cast<int> (length), time % 64);
+        data += 1 + length;
+        size -= 1 + length;
+    }
+
+    return midi;
+}
+
+/** Processes a block of silence with MIDI; what is wrong with the block afterwards. */
+std::string playBlock (VorloProcessor& processor, const juce::MidiBuffer& midi)
+{
+    auto played = midi;
+    juce::AudioBuffer<float> block (2, 64);
+    block.clear();
+    processor.processBlock (block, played);
+
+    if (played.data != midi.data)
+        return "the MIDI has changed";
+
+    for (int i = 0; i < block.getNumSamples(); ++i)
+        if (! std::isfinite (block.getSample (0, i)))
+            return "a sample isn't finite";
+
+    return {};
+}
 
 std::string findValueOutOfRange (const zembra::ParamSet& params)
 {
@@ -109,6 +144,30 @@ std::string fuzz::pasteClipboard (const std::uint8_t* data, std::size_t size)
     return findValueOutOfRange (instance.processor.getParamSet());
 }
 
+std::string fuzz::playMidi (const std::uint8_t* data, std::size_t size)
+{
+    if (size < 2)
+        return {};
+
+    auto& instance = Instance::get();
+    auto& processor = instance.processor;
+    auto& params = processor.getParamSet();
+    processor.prepareToPlay (48000.0, 64);
+    processor.setMidiEnabled (true);
+    processor.setMidiProgramChangeEnabled (true);
+    processor.setMidiChannel (data[1] % 17);
+    const auto* learning = params.getParam (data[0] % params.getNumParams());
+    processor.startLearning (learning->getId());
+    auto problem = playBlock (processor, cutIntoEvents (data + 2, size - 2));
+    processor.stopLearning();
+    processor.deliverRealtimeChanges();
+
+    if (problem.empty())
+        problem = findValueOutOfRange (params);
+
+    return problem.empty() ? checkRoundTrip (instance) : problem;
+}
+
 std::string fuzz::readSettings (const std::uint8_t* data, std::size_t size)
 {
     static const TemporaryFolder folder;
@@ -137,10 +196,8 @@ std::string fuzz::readSettings (const std::uint8_t* data, std::size_t size)
 const std::vector<fuzz::NamedTarget>& fuzz::getTargets()
 {
     static const std::vector<NamedTarget> targets{
-        { "chunk", loadChunk },
-        { "preset", loadPreset },
-        { "settings", readSettings },
-        { "clipboard", pasteClipboard },
+        { "chunk", loadChunk },          { "preset", loadPreset }, { "settings", readSettings },
+        { "clipboard", pasteClipboard }, { "midi", playMidi },
     };
     return targets;
 }

@@ -19,6 +19,11 @@ std::string loadPreset (const std::uint8_t* data, std::size_t size);
 std::string readSettings (const std::uint8_t* data, std::size_t size);
 std::string pasteClipboard (const std::uint8_t* data, std::size_t size);
 
+/** Plays the bytes as MIDI: first the number of the parameter that learns and the channel, then
+    events, each after a byte whose lowest two bits are its length less one.
+*/
+std::string playMidi (const std::uint8_t* data, std::size_t size);
+
 struct NamedTarget
 {
     const char* name; ///< of the corpus folder too

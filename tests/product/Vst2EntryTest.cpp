@@ -132,12 +132,20 @@ TEST_F (Vst2EntryTest, SaysWhatItIs)
     EXPECT_FLOAT_EQ (effect->getParameter (effect, 21), 19.0f / 32.0f);
 }
 
-TEST_F (Vst2EntryTest, DescribesItsPinsWithTheInterfacesFlags)
+TEST_F (Vst2EntryTest, DescribesItsPinsInTheInterfacesFlagsAndSizes)
 {
-    t_fstPinProperties pin{};
-    EXPECT_EQ (send (opcode::getOutputProperties, 0, 0, &pin), 1);
+    struct
+    {
+        t_fstPinProperties pin;
+        char beyond;
+    } room{ {}, 'x' };
+
+    EXPECT_EQ (send (opcode::getOutputProperties, 0, 0, &room), 1);
     constexpr int isActive = 1, isStereo = 2, useSpeaker = 4;
-    EXPECT_EQ (pin.flags, isActive | isStereo | useSpeaker);
+    EXPECT_EQ (room.pin.flags, isActive | isStereo | useSpeaker);
+    EXPECT_STREQ (room.pin.label, "Output L");
+    EXPECT_STREQ (room.pin.shortLabel, "Output ");
+    EXPECT_EQ (room.beyond, 'x');
 }
 
 TEST_F (Vst2EntryTest, HearsTheHostsBypassAndTailQuestion)

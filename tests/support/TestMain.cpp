@@ -5,9 +5,29 @@
 #include <gtest/gtest.h>
 #include <juce_events/juce_events.h>
 
+#if JUCE_LINUX
+#include <dlfcn.h>
+#endif
+
+namespace
+{
+
+/** JUCE lets go of Xlib in the end. What Xlib keeps for the life of a process would then seem leaked
+    to a sanitizer, with nobody left who points to it.
+*/
+void keepXlibLoaded()
+{
+#if JUCE_LINUX
+    dlopen ("libX11.so.6", RTLD_LAZY);
+#endif
+}
+
+} // namespace
+
 int main (int argc, char** argv)
 {
     testing::InitGoogleTest (&argc, argv);
+    keepXlibLoaded();
     const juce::ScopedJuceInitialiser_GUI juceIsUp;
 
     // Sees to it that a display without a window manager, which refuses some of the properties that

@@ -7,6 +7,7 @@
 #include <gtest/gtest.h>
 
 #include <limits>
+#include <thread>
 
 using namespace zembra;
 
@@ -52,6 +53,26 @@ TEST_F (ParamTest, TellsANewListenerThePresentValueAndAddsItOnce)
     EXPECT_EQ (recorder.numCalls, 2);
     param.setValue (30.0, sourceHost);
     EXPECT_EQ (recorder.numCalls, 3);
+}
+
+// Told before the recorder, it has another thread overtake the change that it is told of.
+TEST_F (ParamTest, TellsTheValueThatHoldsLastWhoeverSetIt)
+{
+    struct Overtaking final : Param::Listener
+    {
+        void paramChanged (Param* changed, double plain, double, int) override
+        {
+            if (plain == 30.0)
+                std::thread ([=] { changed->setValue (40.0, sourceHost); }).join();
+        }
+    };
+
+    Overtaking overtaking;
+    param.addListener (&overtaking);
+    param.setValue (30.0, sourceEditor);
+    EXPECT_EQ (recorder.lastPlain, 40.0);
+    EXPECT_EQ (recorder.lastNormalised, 0.4);
+    param.removeListener (&overtaking);
 }
 
 TEST_F (ParamTest, StoresOnlyWhatDiffersByMoreThanAQuarterStep)

@@ -18,6 +18,8 @@
 #define effKeysRequired unknown_effKeysRequired
 #define effGetNumMidiInputChannels unknown_effGetNumMidiInputChannels
 #define effGetNumMidiOutputChannels unknown_effGetNumMidiOutputChannels
+#define kVstMaxLabelLen size_of_label
+#define kVstMaxShortLabelLen size_of_shortLabel
 #define kVstPinIsActive unknown_kVstPinIsActive
 #define kVstPinIsStereo unknown_kVstPinIsStereo
 #define kVstPinUseSpeaker unknown_kVstPinUseSpeaker
@@ -35,6 +37,8 @@
 #undef effKeysRequired
 #undef effGetNumMidiInputChannels
 #undef effGetNumMidiOutputChannels
+#undef kVstMaxLabelLen
+#undef kVstMaxShortLabelLen
 #undef kVstPinIsActive
 #undef kVstPinIsStereo
 #undef kVstPinUseSpeaker
@@ -55,6 +59,14 @@ enum
     effKeysRequired = 57,
     effGetNumMidiInputChannels = 78,
     effGetNumMidiOutputChannels = 79
+};
+
+// JUCE writes a pin's texts with a null byte after as many bytes as these say: one less than the
+// fields hold.
+enum
+{
+    kVstMaxLabelLen = 63,
+    kVstMaxShortLabelLen = 7
 };
 
 // Flags of a pin's properties.
