@@ -1,6 +1,9 @@
 // The product's editor opened and closed in every situation.
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "framework/gui/PluginEditor.h"
+#include "framework/midi/ParamsMidiMapper.h"
+#include "framework/presets/PresetFileManager.h"
+#include "tests/support/MidiEvents.h"
 #include "tests/support/TestProcessor.h"
 #include "tests/support/TestWindow.h"
 
@@ -11,13 +14,15 @@
 namespace
 {
 
-/** A host that plays and automates on threads of its own. */
+/** A host that plays, with MIDI controllers, and automates on threads of its own. */
 class BusyHost final
 {
 public:
     explicit BusyHost (VorloProcessor& processorToUse) : processor (processorToUse)
     {
         processor.prepareToPlay (48000.0, 64);
+        processor.setMidiEnabled (true);
+        processor.getParamsMidiMapper().setMapping (learnedController, "drive");
         audio = std::thread ([this] { play(); });
         automation = std::thread ([this] { automate(); });
     }
@@ -33,11 +38,12 @@ private:
     void play()
     {
         juce::AudioBuffer<float> buffer (2, 64);
-        juce::MidiBuffer midi;
 
-        while (! done)
+        for (int count = 0; ! done; ++count)
         {
+            const auto value = static_cast<juce::uint8> (count % 128);
             buffer.clear();
+            auto midi = makeMidi ({ { 0xb0, learnedController, value } });
             processor.processBlock (buffer, midi);
             juce::Thread::sleep (1);
         }
@@ -54,6 +60,8 @@ private:
             juce::Thread::sleep (1);
         }
     }
+
+    static constexpr juce::uint8 learnedController = 20;
 
     VorloProcessor& processor;
     std::atomic<bool> done{ false };
@@ -73,6 +81,9 @@ size_t getHeapSize() { return mallinfo2().uordblks; }
 TEST (EditorLife, ManyOpeningsUnderLoadLeaveNothingBehind)
 {
     TestProcessor vorlo;
+    auto& presets = vorlo.processor.getPresetFileManager();
+    const auto preset = vorlo.folder.getChild ("Any.ompreset");
+    ASSERT_TRUE (presets.savePresetToFile (preset));
     const BusyHost host (vorlo.processor);
     size_t afterWarmUp = 0;
     constexpr int numCycles = 100;
@@ -83,6 +94,8 @@ TEST (EditorLife, ManyOpeningsUnderLoadLeaveNothingBehind)
         ASSERT_NE (editor, nullptr);
         TestWindow window (*editor);
         TestWindow::runMessages (cycle % 10 == 0 ? 60 : 2);
+        presets.loadPreset (preset, &vorlo.processor.getUndoManager());
+        vorlo.processor.getUndoManager().clearUndoHistory(); // it grows, as it should
         window.click (*editor->getWidgets()[cycle % editor->getWidgets().size()]);
         editor.reset();
         EXPECT_EQ (vorlo.processor.getActiveEditor(), nullptr);
