@@ -164,7 +164,7 @@ void ZembraLfo::fillFromTable (float* out, const float* end) noexcept
 
     for (; out != end; ++out)
     {
-        const auto index = static_cast<int> (position);
+        const auto index = static_cast<std::ptrdiff_t> (position);
         const auto fraction = static_cast<float> (position - static_cast<double> (index));
         *out = fraction * deltas[index] + points[index];
         position += increment;
