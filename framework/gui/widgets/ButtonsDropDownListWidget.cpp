@@ -15,12 +15,12 @@ ButtonsDropDownListWidget::ButtonsDropDownListWidget (PluginProcessor& processor
     list.addListener (this);
     list.addMouseListener (this, true);
     addAndMakeVisible (list);
-    getParam().addListener (this);
+    listenTo (getParam());
 }
 
 ButtonsDropDownListWidget::~ButtonsDropDownListWidget()
 {
-    getParam().removeListener (this);
+    stopListening();
     list.removeListener (this);
 }
 

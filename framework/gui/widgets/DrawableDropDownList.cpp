@@ -14,12 +14,12 @@ DrawableDropDownList::DrawableDropDownList (PluginProcessor& processorToUse,
     button.addMouseListener (this, false);
     addAndMakeVisible (button);
     addChildComponent (menu);
-    getParam().addListener (this);
+    listenTo (getParam());
 }
 
 DrawableDropDownList::~DrawableDropDownList()
 {
-    getParam().removeListener (this);
+    stopListening();
     button.removeListener (this);
 }
 

@@ -37,7 +37,7 @@ Fader::Fader (PluginProcessor& processorToUse, const juce::String& paramId,
                       toFloatPrecision (param.getMaxValue()), toFloatPrecision (param.getStep()));
     slider->setSkewFactor (param.getSkew(), false);
     slider->addListener (this);
-    param.addListener (this);
+    listenTo (param);
 }
 
 Fader::~Fader()
@@ -47,7 +47,7 @@ Fader::~Fader()
     if (isDragging)
         endGesture (getParam());
 
-    getParam().removeListener (this);
+    stopListening();
     slider->removeListener (this);
 }
 

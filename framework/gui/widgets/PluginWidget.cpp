@@ -58,9 +58,36 @@ PluginWidget::PluginWidget (PluginProcessor& processorToUse, const juce::String&
 PluginWidget::~PluginWidget()
 {
     dismissLearnCallOut();
+    stopListening();
+}
 
+void PluginWidget::stopListening()
+{
     for (auto* param : params)
-        param->removeListener (this);
+        param->removeListener (&ear);
+}
+
+// On the message thread these show what has changed, on any other they take a note.
+
+void PluginWidget::Ear::paramChanged (Param* param, double plain, double normalised, int source)
+{
+    widget.PluginWidget::paramChanged (param, plain, normalised, source);
+}
+
+void PluginWidget::Ear::paramEnabledChanged (Param* param, bool disabled)
+{
+    widget.PluginWidget::paramEnabledChanged (param, disabled);
+}
+
+void PluginWidget::Ear::paramFrozenChanged (Param* param)
+{
+    widget.PluginWidget::paramFrozenChanged (param);
+}
+
+bool PluginWidget::isOnMessageThread() const
+{
+    // JUCE's question takes a mutex.
+    return ! processor.isInRealtimeCall() && juce::MessageManager::existsAndIsCurrentThread();
 }
 
 void PluginWidget::paramChanged (Param* param, double plain, double, int source)
@@ -69,7 +96,7 @@ void PluginWidget::paramChanged (Param* param, double plain, double, int source)
     if (source != sourceEditor)
         needsUpdate.store (true, std::memory_order_release);
 
-    if (juce::MessageManager::existsAndIsCurrentThread())
+    if (isOnMessageThread())
         paramValueShown (param, plain);
     else
         valueShownPending.store (true, std::memory_order_release);
@@ -79,7 +106,7 @@ void PluginWidget::paramEnabledChanged (Param*, bool disabled)
 {
     disabledPending.store (disabled ? 1 : 0, std::memory_order_release);
 
-    if (juce::MessageManager::existsAndIsCurrentThread())
+    if (isOnMessageThread())
         applyPendingMarks();
 }
 
@@ -87,7 +114,7 @@ void PluginWidget::paramFrozenChanged (Param*)
 {
     frozenPending.store (true, std::memory_order_release);
 
-    if (juce::MessageManager::existsAndIsCurrentThread())
+    if (isOnMessageThread())
         applyPendingMarks();
 }
 

@@ -100,6 +100,12 @@ protected:
     /** The parameter has a new value: a widget with a bubble renews its tooltip. [message thread] */
     virtual void paramValueShown (Param*, double) {}
 
+    /** Hears of a parameter's changes from now on, and of its present value at once. */
+    void listenTo (Param& param) { param.addListener (&ear); }
+
+    /** Hears of no parameter any more; no other thread is inside the widget when this returns. */
+    void stopListening();
+
     /** Tells the host that the user takes hold of, or lets go of, a parameter. */
     void beginGesture (Param&);
     void endGesture (Param&);
@@ -118,6 +124,23 @@ protected:
     bool showsValueBubble = true;
 
 private:
+    /** The listener that the parameters know. It is whole before the widget's own classes are
+        constructed, and until after they are gone: other threads may call it all that time, and then
+        no function that those classes override may be called.
+    */
+    class Ear final : public Param::Listener
+    {
+    public:
+        explicit Ear (PluginWidget& widgetToUse) : widget (widgetToUse) {}
+        void paramChanged (Param*, double plain, double normalised, int source) override;
+        void paramEnabledChanged (Param*, bool disabled) override;
+        void paramFrozenChanged (Param*) override;
+
+    private:
+        PluginWidget& widget;
+    };
+
+    bool isOnMessageThread() const;
     void applyPendingMarks();
     void showBubble();
     void openLearnPanel();
@@ -128,6 +151,7 @@ private:
     std::atomic<bool> valueShownPending{ false };
     std::atomic<bool> frozenPending{ false };
     std::atomic<int> disabledPending{ -1 };
+    Ear ear{ *this };
     bool focusCameByKeyboard = false;
     std::unique_ptr<juce::Component> learnPanel;
     juce::Component::SafePointer<juce::CallOutBox> learnCallOut;

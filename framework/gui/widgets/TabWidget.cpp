@@ -18,12 +18,12 @@ TabWidget::TabWidget (PluginProcessor& processorToUse, const juce::String& param
     for (int i = 0; i < getParam().getNumSteps(); ++i)
         adopt (*buttons.add (std::make_unique<juce::TextButton> (juce::String (i))));
 
-    getParam().addListener (this);
+    listenTo (getParam());
 }
 
 TabWidget::~TabWidget()
 {
-    getParam().removeListener (this);
+    stopListening();
 
     for (auto* button : buttons)
         button->removeListener (this);

@@ -26,7 +26,7 @@ Toggle::Toggle (PluginProcessor& processorToUse, const juce::String& paramId,
 
 Toggle::~Toggle()
 {
-    getParam().removeListener (this);
+    stopListening();
     button->removeListener (this);
 }
 
@@ -38,7 +38,7 @@ void Toggle::setUp()
     button->setColour (juce::DrawableButton::backgroundOnColourId, juce::Colours::transparentBlack);
     button->setWantsKeyboardFocus (true);
     addAndMakeVisible (*button);
-    getParam().addListener (this);
+    listenTo (getParam());
     button->addMouseListener (this, false);
     button->addListener (this);
 }

@@ -43,7 +43,7 @@ TwoValueFader::TwoValueFader (PluginProcessor& processorToUse, const juce::Strin
     slider.addListener (this);
 
     for (auto* param : params)
-        param->addListener (this);
+        listenTo (*param);
 }
 
 TwoValueFader::~TwoValueFader()
@@ -51,9 +51,7 @@ TwoValueFader::~TwoValueFader()
     if (dragged != nullptr)
         endGesture (*dragged);
 
-    for (auto* param : params)
-        param->removeListener (this);
-
+    stopListening();
     slider.removeListener (this);
 
     for (auto& label : labels)

@@ -183,7 +183,7 @@ TEST (Panels, TurnTheSyncedRateByADragAndOpenItsMenuByAClick)
         auto hasOpened = false;
 
         // JUCE takes a menu away again while another process has the keyboard.
-        for (int waited = 0; waited < afterTimers && ! hasOpened; waited += 5)
+        for (int waited = 0; waited < 20 * afterTimers && ! hasOpened; waited += 5)
         {
             TestWindow::runMessages (5);
             hasOpened = desk.periodList().getMenu().isMenuOpen();
