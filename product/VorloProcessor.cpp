@@ -59,6 +59,8 @@ VorloProcessor::VorloProcessor (const zembra::FolderRoots& roots)
 
 VorloProcessor::~VorloProcessor()
 {
+    endMessages();
+
     for (auto* param : getParamSet())
         param->removeListener (this);
 }

@@ -47,7 +47,17 @@ PluginProcessor::PluginProcessor (const ProductInfo& infoToUse, const FolderRoot
 {
 }
 
-PluginProcessor::~PluginProcessor() { stopTimer(); }
+PluginProcessor::~PluginProcessor() = default;
+
+void PluginProcessor::endMessages()
+{
+    // JUCE's LV2 wrapper has a message thread of its own, and lets it run on while the host deletes an
+    // instance on another.
+    if (wrapperType == wrapperType_LV2)
+        heldMessages = std::make_unique<juce::MessageManagerLock>();
+
+    stopTimer();
+}
 
 void PluginProcessor::setUpComplete()
 {

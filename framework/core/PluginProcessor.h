@@ -211,6 +211,11 @@ protected:
     /** What a product adds to the start-up; runs inside setUpComplete(). */
     virtual void setUpProduct() {}
 
+    /** Sees to it that no timer or message reaches the processor any more, on any thread. The first
+        thing that a product's destructor does.
+    */
+    void endMessages();
+
 private:
     void setUpPresets();
     void takeDefaultsFromDefaultPreset();
@@ -221,6 +226,7 @@ private:
     void loadPendingProgram();
     void tellHost (int index, double normalised, int source);
 
+    std::unique_ptr<juce::MessageManagerLock> heldMessages; // first, to be let go of last
     const ProductInfo info;
     const FolderRoots folderRoots;
     ParamSet paramSet{ "PARAMS" };
