@@ -24,7 +24,7 @@ endfunction()
 function(quicken_build)
     find_package(GTest REQUIRED)
     add_part_of_tests(vorlo_sound_tests
-        "framework/dsp|product/(dsp/|Engine|Finite|Processor|Sound)|support/(Reference|Realtime.*Guard.cpp)"
+        "framework/dsp|product/(dsp/[SZ]|Finite|Processor|Sound)|support/(Reference|Realtime.*Guard.cpp)"
         vorlo_random_host vorlo_product)
     add_part_of_tests(vorlo_listener_tests "framework/core/ListenerArray" zembra_juce)
     precompile_headers(vorlo_product)

@@ -1,7 +1,9 @@
 // Preparation, transport and physics of the whole chain.
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "tests/support/RealtimeGuard.h"
 #include "tests/support/Signals.h"
 #include "tests/support/TestProcessor.h"
+#include "tools/soak/RandomAutomation.h"
 
 #include <gtest/gtest.h>
 
@@ -39,6 +41,28 @@ TEST_F (ProcessorTest, GrowsItsBuffersAsBlocksAreAnnouncedOrCome)
     auto big = signals::makeConstant (2, 5000, 0.1f);
     tested.process (big);
     EXPECT_EQ (tested.processor.getBlockCapacity(), 10000);
+}
+
+TEST_F (ProcessorTest, NeverWaitsNorAllocatesWhileItProcesses)
+{
+    if (! RealtimeGuard::isAvailable())
+        GTEST_SKIP() << "nothing can be counted here";
+
+    tested.processor.prepareToPlay (48000.0, 512);
+    soak::RandomAutomation automation (tested.processor, 11, false);
+    auto buffer = signals::makeBusySignal (2, 512, 0.9f);
+    juce::Random random (12);
+    juce::MidiBuffer midi;
+
+    for (int block = 0; block < 500; ++block)
+    {
+        automation.moveAll();
+        juce::AudioBuffer<float> part (buffer.getArrayOfWritePointers(), 2, random.nextInt (513));
+        const RealtimeGuard guard;
+        tested.processor.processBlock (part, midi);
+        const auto counts = guard.getCounts();
+        ASSERT_EQ (counts.allocations + counts.locks + counts.systemCalls, 0) << "block " << block;
+    }
 }
 
 TEST_F (ProcessorTest, PassesTheSignalRoundedTo24BitsThroughItsDefaults)
