@@ -7,6 +7,8 @@
 
 #include <gtest/gtest.h>
 
+#include <limits>
+
 namespace
 {
 
@@ -191,6 +193,17 @@ TEST_F (ProcessorTest, ConvertsBetweenFreeAndSyncedRates)
     tested.set ("lfoSyncedPeriod", 32.0);
     tested.set ("lfoSyncOrFree", 0.0);
     EXPECT_EQ (tested.get ("lfoFreeRate"), 10.0) << "the knob ends there";
+
+    for (const auto noTempo : { 0.0, -120.0, std::numeric_limits<double>::quiet_NaN() })
+    {
+        info.setBpm (noTempo);
+        tested.playHead.position = info;
+        tested.processor.prepareToPlay (48000.0, 512);
+        tested.set ("lfoSyncOrFree", 1.0);
+        tested.set ("lfoSyncedPeriod", 19.0);
+        tested.set ("lfoSyncOrFree", 0.0);
+        EXPECT_NEAR (tested.get ("lfoFreeRate"), 1.0 / 6.0, 1e-5) << "a quarter at 10 bpm";
+    }
 }
 
 TEST_F (ProcessorTest, MakesSoundWithoutAPlayHeadOrWithAnEmptyOne)

@@ -256,7 +256,7 @@ private:
         const auto seconds = sample / sampleRate;
         juce::AudioPlayHead::PositionInfo info;
         info.setBpm (133.0);
-        info.setTimeSignature (juce::AudioPlayHead::TimeSignature{ 3, 4 });
+        info.setTimeSignature (juce::AudioPlayHead::TimeSignature{ 3, 8 });
         info.setPpqPosition (seconds * 133.0 / 60.0);
         info.setTimeInSamples (sample);
         info.setIsPlaying (true);
@@ -265,6 +265,7 @@ private:
         reference::Transport transport;
         transport.bpm = 133.0;
         transport.timeSigNumerator = 3;
+        transport.timeSigDenominator = 8;
         transport.ppqPosition = seconds * 133.0 / 60.0;
         transport.timeInSamples = sample;
         transport.isPlaying = true;
