@@ -120,6 +120,28 @@ TEST_F (ProcessorTest, HoldsForAHundredthOfASecondAtFullReduction)
         EXPECT_EQ (changes[i] - changes[i - 1], 441);
 }
 
+TEST_F (ProcessorTest, HoldsTheChannelsOfAWideBufferByOneClock)
+{
+    tested.set ("bypassFilter", 1.0);
+    tested.set ("bypassDrySignal", 1.0);
+    tested.set ("downsamp", 60.0);
+    settle();
+
+    for (int block = 0; block < 10; ++block)
+    {
+        auto wide = signals::makeBusySignal (4, 333, 0.9f);
+
+        for (int channel = 2; channel < 4; ++channel)
+            wide.copyFrom (channel, 0, wide, channel - 2, 0, 333);
+
+        tested.process (wide);
+
+        for (int i = 0; i < 333; ++i)
+            for (int channel = 2; channel < 4; ++channel)
+                ASSERT_EQ (wide.getSample (channel, i), wide.getSample (channel - 2, i)) << i;
+    }
+}
+
 TEST_F (ProcessorTest, FiltersAsTheKnobsSay)
 {
     struct Row
