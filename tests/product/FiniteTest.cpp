@@ -53,9 +53,11 @@ class FiniteTest : public testing::Test
 protected:
     void prepareAnew()
     {
-        constexpr double rates[] = { 44100.0, 48000.0,  96000.0,  192000.0, 8000.0,
-                                     22050.0, 384000.0, 768000.0, 1.0,      0.0,
-                                     -5.0,    100.0,    400.0,    2000.0,   47999.9 };
+        constexpr auto inf = std::numeric_limits<double>::infinity();
+        constexpr auto nan = std::numeric_limits<double>::quiet_NaN();
+        constexpr double rates[] = { 44100.0,  48000.0, 96000.0, 192000.0, 8000.0, 22050.0,
+                                     384000.0, 768e3,   1.0,     0.0,      -5.0,   100.0,
+                                     400.0,    2000.0,  47999.9, 1e12,     inf,    nan };
         tested.processor.prepareToPlay (rates[random.nextInt (std::size (rates))],
                                         random.nextInt (4) == 0 ? 0 : random.nextInt (2048));
     }
@@ -69,7 +71,7 @@ protected:
     AudioBuffer<float> processBlock (int numSamples, int numChannels = 2)
     {
         AudioBuffer<float> buffer (numChannels, numSamples);
-        signal.fill (buffer, numSamples);
+        (random.nextInt (10) == 0 ? loudestSignal : signal).fill (buffer, numSamples);
         transport.advance (numSamples, 48000.0);
         tested.process (buffer);
         return buffer;
@@ -79,6 +81,7 @@ protected:
     juce::Random random{ 31 };
     soak::RandomTransport transport{ 32, soak::RandomTransport::Manners::wild };
     soak::RandomSignal signal{ 33, 30.0f };
+    soak::RandomSignal loudestSignal{ 35, std::numeric_limits<float>::max() };
     soak::RandomAutomation automation{ tested.processor, 34, true };
 };
 
@@ -112,7 +115,7 @@ TEST_F (FiniteTest, HoldsWithoutPreparationAndWithANewRateAtEveryTurn)
             prepareAnew();
 
         automation.moveAll();
-        const auto fault = findFault (processBlock (getLength (4096)));
+        const auto fault = findFault (processBlock (getLength (4096), 1 + random.nextInt (3)));
         ASSERT_EQ (fault, "") << "turn " << turn << ": " << describe (tested.processor);
     }
 
@@ -185,6 +188,24 @@ TEST_F (FiniteTest, RidsItselfOfNanAndInfinityInATenthOfASecond)
             ASSERT_EQ (findFault (clean), "")
                 << "turn " << turn << " after " << poison << ": " << describe (tested.processor);
         }
+    }
+}
+
+TEST_F (FiniteTest, SilentDryPathKeepsAnInfinityOut)
+{
+    tested.set ("bypassDrySignal", 1.0);
+    tested.processor.prepareToPlay (48000.0, 256);
+
+    for (int block = 0; block < 3; ++block)
+    {
+        AudioBuffer<float> buffer (2, 256);
+        const auto input = block == 2 ? std::numeric_limits<float>::infinity() : 0.1f;
+
+        for (int channel = 0; channel < 2; ++channel)
+            juce::FloatVectorOperations::fill (buffer.getWritePointer (channel), input, 256);
+
+        tested.process (buffer);
+        EXPECT_EQ (findFault (buffer), "") << "block " << block;
     }
 }
 

@@ -1,9 +1,13 @@
 // Preparation, transport and physics of the whole chain.
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "tests/support/RealtimeGuard.h"
 #include "tests/support/Signals.h"
 #include "tests/support/TestProcessor.h"
+#include "tools/soak/RandomAutomation.h"
 
 #include <gtest/gtest.h>
+
+#include <limits>
 
 namespace
 {
@@ -39,6 +43,28 @@ TEST_F (ProcessorTest, GrowsItsBuffersAsBlocksAreAnnouncedOrCome)
     auto big = signals::makeConstant (2, 5000, 0.1f);
     tested.process (big);
     EXPECT_EQ (tested.processor.getBlockCapacity(), 10000);
+}
+
+TEST_F (ProcessorTest, NeverWaitsNorAllocatesWhileItProcesses)
+{
+    if (! RealtimeGuard::isAvailable())
+        GTEST_SKIP() << "nothing can be counted here";
+
+    tested.processor.prepareToPlay (48000.0, 512);
+    soak::RandomAutomation automation (tested.processor, 11, false);
+    auto buffer = signals::makeBusySignal (2, 512, 0.9f);
+    juce::Random random (12);
+    juce::MidiBuffer midi;
+
+    for (int block = 0; block < 500; ++block)
+    {
+        automation.moveAll();
+        juce::AudioBuffer<float> part (buffer.getArrayOfWritePointers(), 2, random.nextInt (513));
+        const RealtimeGuard guard;
+        tested.processor.processBlock (part, midi);
+        const auto counts = guard.getCounts();
+        ASSERT_EQ (counts.allocations + counts.locks + counts.systemCalls, 0) << "block " << block;
+    }
 }
 
 TEST_F (ProcessorTest, PassesTheSignalRoundedTo24BitsThroughItsDefaults)
@@ -92,6 +118,28 @@ TEST_F (ProcessorTest, HoldsForAHundredthOfASecondAtFullReduction)
 
     for (size_t i = 1; i < changes.size(); ++i)
         EXPECT_EQ (changes[i] - changes[i - 1], 441);
+}
+
+TEST_F (ProcessorTest, HoldsTheChannelsOfAWideBufferByOneClock)
+{
+    tested.set ("bypassFilter", 1.0);
+    tested.set ("bypassDrySignal", 1.0);
+    tested.set ("downsamp", 60.0);
+    settle();
+
+    for (int block = 0; block < 10; ++block)
+    {
+        auto wide = signals::makeBusySignal (4, 333, 0.9f);
+
+        for (int channel = 2; channel < 4; ++channel)
+            wide.copyFrom (channel, 0, wide, channel - 2, 0, 333);
+
+        tested.process (wide);
+
+        for (int i = 0; i < 333; ++i)
+            for (int channel = 2; channel < 4; ++channel)
+                ASSERT_EQ (wide.getSample (channel, i), wide.getSample (channel - 2, i)) << i;
+    }
 }
 
 TEST_F (ProcessorTest, FiltersAsTheKnobsSay)
@@ -167,6 +215,17 @@ TEST_F (ProcessorTest, ConvertsBetweenFreeAndSyncedRates)
     tested.set ("lfoSyncedPeriod", 32.0);
     tested.set ("lfoSyncOrFree", 0.0);
     EXPECT_EQ (tested.get ("lfoFreeRate"), 10.0) << "the knob ends there";
+
+    for (const auto noTempo : { 0.0, -120.0, std::numeric_limits<double>::quiet_NaN() })
+    {
+        info.setBpm (noTempo);
+        tested.playHead.position = info;
+        tested.processor.prepareToPlay (48000.0, 512);
+        tested.set ("lfoSyncOrFree", 1.0);
+        tested.set ("lfoSyncedPeriod", 19.0);
+        tested.set ("lfoSyncOrFree", 0.0);
+        EXPECT_NEAR (tested.get ("lfoFreeRate"), 1.0 / 6.0, 1e-5) << "a quarter at 10 bpm";
+    }
 }
 
 TEST_F (ProcessorTest, MakesSoundWithoutAPlayHeadOrWithAnEmptyOne)

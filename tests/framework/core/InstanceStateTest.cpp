@@ -143,20 +143,6 @@ TEST_F (InstanceStateTest, LeavesAloneWhatItDoesNotHold)
     EXPECT_EQ (get (*processor, "drive"), 30.0);
 }
 
-TEST_F (InstanceStateTest, RestoresALinkedPairExactly)
-{
-    // While linked, each gain follows the other's edits; a project must not move either.
-    loadText (*processor, "<Vorlo><PARAMS dryWetLink=\"1\" dry=\"-10.25\" wet=\"4.5\"/></Vorlo>");
-    EXPECT_EQ (get (*processor, "dry"), -10.25);
-    EXPECT_EQ (get (*processor, "wet"), 4.5);
-    const auto chunk = save (*processor);
-    edit (*processor, "dry", 0.0);
-    EXPECT_EQ (get (*processor, "wet"), 14.75);
-    load (*processor, chunk);
-    EXPECT_EQ (get (*processor, "dry"), -10.25);
-    EXPECT_EQ (get (*processor, "wet"), 4.5);
-}
-
 TEST_F (InstanceStateTest, RoundTripsRandomStates)
 {
     juce::Random random (1);

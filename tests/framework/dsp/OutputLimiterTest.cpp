@@ -24,6 +24,7 @@ TEST (OutputLimiterTest, PassesWhatIsBelowFour)
     EXPECT_EQ (limit (limiter, loud), loud);
     EXPECT_TRUE (limiter.passes (3.9999998f));
     EXPECT_FALSE (limiter.passes (4.0f));
+    EXPECT_LT (limit (limiter, { 4.0f })[0], 4.0f);
 }
 
 TEST (OutputLimiterTest, PullsTheGainBySixtyFourthsWhileOver)

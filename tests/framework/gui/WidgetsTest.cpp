@@ -311,7 +311,7 @@ TEST (Toggle, MomentarySendsBothWaysInOneGesture)
     b.expectOneEdit();
 }
 
-TEST (Toggle, AClickBringsTheTextOfItsState)
+TEST (Toggle, EachClickBringsItsTextAndAnUndoStep)
 {
     Bench<zembra::Toggle> b (paramId::bypassFilter, std::make_unique<juce::ToggleButton>());
     b.widget.setTooltip ("first");
@@ -323,6 +323,7 @@ TEST (Toggle, AClickBringsTheTextOfItsState)
     EXPECT_EQ (b.widget.getButton().getTooltip(), "bypass");
     b.window->click (b.widget.getButton());
     EXPECT_EQ (b.widget.getTooltip(), "turn on");
+    EXPECT_EQ (countUndoSteps (b.undo), 2);
 }
 
 TEST (TabWidget, ChoosesAndFollows)

@@ -82,6 +82,9 @@ TEST (StagesTest, HoldLastsForItsLengthRoundedUp)
     stage.prepare (44100.0f);
     stage.steer (1.0f);
     EXPECT_NEAR (stage.getHoldLength().getValue(), 441.0f, 1e-3f);
+    stage.prepare (88200.0f);
+    stage.steer (1.0f);
+    EXPECT_NEAR (stage.getHoldLength().getValue(), 882.0f, 1e-3f) << "the knob needn't move";
     stage.steer (0.0f);
     EXPECT_TRUE (stage.isTransparent());
 }

@@ -68,6 +68,14 @@ TEST_F (ZembraLfoTest, IsTheSameInAnyBlocks)
     EXPECT_EQ (whole, parts);
 }
 
+TEST_F (ZembraLfoTest, CountsAPlaceBeforeTheStartFromTheEnd)
+{
+    lfo.setPosition (0.75f);
+    const auto expected = run (ZembraLfo::triangle, 1.0f, 1000);
+    lfo.setPosition (-0.25f);
+    EXPECT_EQ (run (ZembraLfo::triangle, 1.0f, 1000), expected);
+}
+
 TEST_F (ZembraLfoTest, GlidesToRestAndBack)
 {
     run (ZembraLfo::square, 1.0f, 100);
