@@ -1,15 +1,13 @@
 // Runs the tests with JUCE's message thread set up, as a host would have it.
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "tests/support/TestWindow.h"
+#include "tools/hosting/SharedFolders.h"
 
 #include <gtest/gtest.h>
 #include <juce_events/juce_events.h>
 
 #if JUCE_LINUX
 #include <dlfcn.h>
-#include <sched.h>
-#include <sys/mount.h>
-#include <unistd.h>
 #endif
 
 namespace
@@ -25,27 +23,12 @@ void keepXlibLoaded()
 #endif
 }
 
-/** A plug-in that root runs makes its shared folders on the system. For this process and those that it
-    starts the place is covered with an empty one, unless the tests themselves lie there.
-*/
-void coverSharedFolders()
-{
-#if JUCE_LINUX
-    const auto shared = juce::File::getSpecialLocation (juce::File::commonApplicationDataDirectory);
-
-    if (geteuid() == 0 && ! juce::File (VORLO_VST2_PATH).isAChildOf (shared)
-        && unshare (CLONE_NEWNS) == 0
-        && mount ("none", "/", nullptr, MS_REC | MS_PRIVATE, nullptr) == 0)
-        mount ("none", shared.getFullPathName().toRawUTF8(), "tmpfs", 0, nullptr);
-#endif
-}
-
 } // namespace
 
 int main (int argc, char** argv)
 {
     testing::InitGoogleTest (&argc, argv);
-    coverSharedFolders();
+    hosting::coverSharedFolders ({ juce::File (VORLO_VST2_PATH) });
     keepXlibLoaded();
     const juce::ScopedJuceInitialiser_GUI juceIsUp;
 

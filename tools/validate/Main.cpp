@@ -1,6 +1,7 @@
 // vorlo_validate: checks built plug-ins as the strictest of hosts would.
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "tools/hosting/HostedPlugin.h"
+#include "tools/hosting/SharedFolders.h"
 #include "tools/validate/Options.h"
 #include "tools/validate/Validation.h"
 
@@ -11,6 +12,11 @@ namespace
 
 constexpr auto usage =
     "usage: vorlo_validate [--thorough] [--seed N] [--repeat N] [--only TEXT] PLUGIN...";
+
+juce::File getFile (const juce::String& path)
+{
+    return juce::File::getCurrentWorkingDirectory().getChildFile (path);
+}
 
 /** Loads the binary anew for each instance, and keeps what it needs. */
 validate::Factory makeFactory (const juce::File& binary)
@@ -25,7 +31,7 @@ validate::Factory makeFactory (const juce::File& binary)
 
 int validatePlugin (const validate::Options& options, const juce::String& path)
 {
-    const auto binary = juce::File::getCurrentWorkingDirectory().getChildFile (path);
+    const auto binary = getFile (path);
     auto numFailed = 0;
 
     for (int i = 0; i < options.numRepeats; ++i)
@@ -53,6 +59,12 @@ int main (int argc, char** argv)
         return 2;
     }
 
+    juce::Array<juce::File> binaries;
+
+    for (const auto& plugin : options.plugins)
+        binaries.add (getFile (plugin));
+
+    hosting::coverSharedFolders (binaries);
     const juce::ScopedJuceInitialiser_GUI juceIsUp;
     auto numFailed = 0;
 
