@@ -43,3 +43,5 @@ foreach(target IN LISTS vorlo_plugin_targets)
         vorlo_export_entry_points_only(${target})
     endif()
 endforeach()
+
+vorlo_use_guarded_vst3_wrapper(Vorlo_VST3)

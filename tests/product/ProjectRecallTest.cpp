@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "framework/midi/ParamsMidiMapper.h"
 #include "tests/support/HostedVorlo.h"
+#include "tools/validate/PluginState.h"
 
 #include <gtest/gtest.h>
 
@@ -45,6 +46,27 @@ TEST (ProjectRecallTest, AChunkOfTheProcessorOpensInTheBinary)
     // The values were stored already, so that the binary writes what it has read, byte by byte.
     ASSERT_TRUE (Vst2::getChunkData (&hosted.get(), back, false));
     EXPECT_EQ (back, chunk);
+}
+
+/** JUCE's VST3 wrapper puts a length and a mark of its own behind the chunk. */
+TEST (ProjectRecallTest, ADamagedEndOfAVst3StateDoesNoHarm)
+{
+    HostedVorlo hosted (VORLO_VST3_PATH);
+    ASSERT_TRUE (hosted.isLoaded());
+    hosted.set ("drive", 37.0);
+    const auto state = hosted.getState();
+    const auto bytes = validate::unwrapState (hosted.get(), state);
+    constexpr size_t longestEnd = 60;
+    ASSERT_GT (bytes.getSize(), longestEnd);
+
+    for (size_t i = 1; i <= longestEnd; ++i)
+        for (const auto wrong : { 0x00, 0x01, 0x7f, 0x80, 0xff })
+        {
+            auto damaged = bytes;
+            damaged[bytes.getSize() - i] = static_cast<char> (wrong);
+            hosted.setState (validate::wrapState (hosted.get(), state, damaged));
+            EXPECT_NEAR (hosted.getValue ("drive"), 37.0, 1e-3) << i << " " << wrong;
+        }
 }
 
 } // namespace

@@ -8,6 +8,16 @@
 namespace soak
 {
 
+RandomAutomation::RandomAutomation (juce::AudioProcessor& processorToMove, juce::int64 seed,
+                                    bool isWildToUse)
+    : random (seed),
+      isWild (isWildToUse)
+{
+    for (auto* parameter : processorToMove.getParameters())
+        if (parameter->isAutomatable())
+            parameters.push_back (parameter);
+}
+
 float RandomAutomation::getValue (float present) noexcept
 {
     constexpr auto inf = std::numeric_limits<float>::infinity();
@@ -30,18 +40,20 @@ float RandomAutomation::getValue (float present) noexcept
     }
 }
 
-void RandomAutomation::move (int index)
+void RandomAutomation::move (juce::AudioProcessorParameter& parameter)
 {
-    auto* param = processor.getParameters()[index];
-    param->setValue (getValue (param->getValue()));
+    parameter.setValue (getValue (parameter.getValue()));
 }
 
-void RandomAutomation::moveOne() { move (random.nextInt (processor.getParameters().size())); }
+void RandomAutomation::moveOne()
+{
+    move (*parameters[static_cast<size_t> (random.nextInt (static_cast<int> (parameters.size())))]);
+}
 
 void RandomAutomation::moveAll()
 {
-    for (int i = 0; i < processor.getParameters().size(); ++i)
-        move (i);
+    for (auto* parameter : parameters)
+        move (*parameter);
 }
 
 } // namespace soak

@@ -4,22 +4,18 @@
 
 #include <juce_audio_processors/juce_audio_processors.h>
 
+#include <vector>
+
 namespace soak
 {
 
-/** Moves parameters as a host does, by their index: to any place, a little, or to an end. Wild
-    automation also sends NaN, infinities and values out of range.
+/** Moves parameters as a host does, those that can be automated: to any place, a little, or to an end.
+    Wild automation also sends NaN, infinities and values out of range.
 */
 class RandomAutomation final
 {
 public:
-    RandomAutomation (juce::AudioProcessor& processorToMove, juce::int64 seed,
-                      bool isWildToUse) noexcept
-        : processor (processorToMove),
-          random (seed),
-          isWild (isWildToUse)
-    {
-    }
+    RandomAutomation (juce::AudioProcessor& processorToMove, juce::int64 seed, bool isWildToUse);
 
     /** Sends one value to one parameter, and to nearly none twice in a row. */
     void moveOne();
@@ -29,9 +25,9 @@ public:
 
 private:
     float getValue (float present) noexcept;
-    void move (int index);
+    void move (juce::AudioProcessorParameter& parameter);
 
-    juce::AudioProcessor& processor;
+    std::vector<juce::AudioProcessorParameter*> parameters;
     juce::Random random;
     const bool isWild;
 
