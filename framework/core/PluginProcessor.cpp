@@ -51,10 +51,12 @@ PluginProcessor::~PluginProcessor() = default;
 
 void PluginProcessor::endMessages()
 {
-    // JUCE's LV2 wrapper has a message thread of its own, and lets it run on while the host deletes an
-    // instance on another.
-    if (wrapperType == wrapperType_LV2)
+#if JUCE_LINUX || JUCE_BSD
+    // JUCE's wrappers for these have a message thread of their own, VST3 as long as no host lends its
+    // own, and let it run on while the host deletes an instance on another.
+    if (wrapperType == wrapperType_LV2 || wrapperType == wrapperType_VST3)
         heldMessages = std::make_unique<juce::MessageManagerLock>();
+#endif
 
     stopTimer();
 }
