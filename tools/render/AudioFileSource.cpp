@@ -3,10 +3,11 @@
 #include "tools/render/AudioFileSource.h"
 
 #include "tools/render/Failure.h"
+#include "tools/render/SmallFile.h"
 
 #include <cerrno>
-#include <filesystem>
 #include <fstream>
+#include <system_error>
 
 namespace render
 {
@@ -17,15 +18,7 @@ namespace
 /** Tells a file that can't be read from one that isn't audio: libsndfile gives one answer to both. */
 void checkReadable (const std::string& path)
 {
-    std::error_code ignored;
-    const auto status = std::filesystem::status (path, ignored);
-
-    if (! std::filesystem::exists (status))
-        throw Failure ("there is no file " + inQuotes (path));
-
-    if (! std::filesystem::is_regular_file (status))
-        throw Failure (inQuotes (path) + " is no regular file");
-
+    requireRegularFile (path);
     errno = 0;
 
     if (! std::ifstream (path, std::ios::binary))

@@ -14,9 +14,8 @@ juce::File toFile (const std::string& path)
     return juce::File::getCurrentWorkingDirectory().getChildFile (juce::String (path));
 }
 
-juce::MemoryBlock readSmallFile (const std::string& path)
+void requireRegularFile (const std::string& path)
 {
-    constexpr juce::int64 largest = 16 * 1024 * 1024;
     std::error_code ignored;
     const auto status = std::filesystem::status (path, ignored);
 
@@ -25,7 +24,12 @@ juce::MemoryBlock readSmallFile (const std::string& path)
 
     if (! std::filesystem::is_regular_file (status))
         throw Failure (inQuotes (path) + " is no regular file");
+}
 
+juce::MemoryBlock readSmallFile (const std::string& path)
+{
+    constexpr juce::int64 largest = 16 * 1024 * 1024;
+    requireRegularFile (path);
     const auto file = toFile (path);
 
     if (file.getSize() > largest)
